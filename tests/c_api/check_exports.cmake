@@ -1,0 +1,58 @@
+# Checks the dynamic symbol table of the shared library against the C headers:
+# every KORVANE_API function of the plain-function family is exported with C
+# linkage, no other unmangled function is exported, and nothing from the
+# library's internal namespace leaks.
+# Inputs: LIB (library path), NM (nm program), HEADERS (include/korvane).
+
+set(declared "")
+foreach(h kernel containers frames geometry numeric curves mesh)
+  file(READ ${HEADERS}/${h}.h text)
+  string(REGEX MATCHALL "KORVANE_API[^;(]*[ *]([A-Za-z_][A-Za-z0-9_]*)\\(" decls "${text}")
+  foreach(d ${decls})
+    string(REGEX REPLACE ".*[ *]([A-Za-z_][A-Za-z0-9_]*)\\($" "\\1" name "${d}")
+    list(APPEND declared ${name})
+  endforeach()
+endforeach()
+list(LENGTH declared ndeclared)
+if(ndeclared EQUAL 0)
+  message(FATAL_ERROR "no declarations found under ${HEADERS}")
+endif()
+
+execute_process(COMMAND ${NM} -D --defined-only ${LIB} OUTPUT_VARIABLE raw RESULT_VARIABLE rc)
+if(NOT rc EQUAL 0)
+  message(FATAL_ERROR "nm failed on ${LIB}")
+endif()
+string(REPLACE "\n" ";" lines "${raw}")
+set(exported "")
+foreach(line ${lines})
+  if(line MATCHES "^[0-9a-fA-F]* +[TW] +([A-Za-z][A-Za-z0-9_]*)$")
+    list(APPEND exported ${CMAKE_MATCH_1})
+  endif()
+endforeach()
+
+set(failures "")
+foreach(name ${declared})
+  list(FIND exported ${name} at)
+  if(at EQUAL -1)
+    string(APPEND failures "not exported with C linkage: ${name}\n")
+  endif()
+endforeach()
+foreach(name ${exported})
+  list(FIND declared ${name} at)
+  if(at EQUAL -1)
+    string(APPEND failures "exported but not declared in a C header: ${name}\n")
+  endif()
+endforeach()
+
+execute_process(COMMAND ${NM} -D -C --defined-only ${LIB} OUTPUT_VARIABLE demangled)
+string(REPLACE "\n" ";" dlines "${demangled}")
+foreach(line ${dlines})
+  if(line MATCHES "korvane::|\\(anonymous namespace\\)")
+    string(APPEND failures "internal symbol exported: ${line}\n")
+  endif()
+endforeach()
+
+if(failures)
+  message(FATAL_ERROR "${failures}")
+endif()
+message(STATUS "${ndeclared} C functions exported, no internal symbol visible")
