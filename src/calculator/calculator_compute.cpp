@@ -11,61 +11,19 @@ using korvane::ValueStack;
 
 namespace {
 
-double fnSin(double x) {
-    return std::sin(x);
-}
-double fnCos(double x) {
-    return std::cos(x);
-}
-double fnTan(double x) {
-    return std::tan(x);
-}
-double fnSqrt(double x) {
-    return std::sqrt(x);
-}
-double fnLog10(double x) {
-    return std::log10(x);
-}
-double fnLog(double x) {
-    return std::log(x);
-}
-// 1.0 over the tangent, so an argument of 0 gives infinity, not an error.
-double fnCot(double x) {
-    return 1.0 / std::tan(x);
-}
-double fnAbs(double x) {
-    return std::fabs(x);
-}
-double fnFloor(double x) {
-    return std::floor(x);
-}
-double fnAsin(double x) {
-    return std::asin(x);
-}
-double fnAcos(double x) {
-    return std::acos(x);
-}
-double fnAtan(double x) {
-    return std::atan(x);
-}
-double fnSinh(double x) {
-    return std::sinh(x);
-}
-double fnCosh(double x) {
-    return std::cosh(x);
-}
-double fnTanh(double x) {
-    return std::tanh(x);
-}
-double fnExp(double x) {
-    return std::exp(x);
-}
-
 // Indexed by code - 51, in the order of the name table. SQR is the square
-// root, like SQRT, and INT rounds down. None is guarded against its domain.
-double (*const kFunctions[])(double) = {fnSin,  fnCos,  fnTan,   fnSqrt, fnLog10, fnLog,
-                                        fnCot,  fnAbs,  fnFloor, fnAsin, fnAcos,  fnAtan,
-                                        fnSinh, fnCosh, fnTanh,  fnExp,  fnSqrt};
+// root, like SQRT, and INT rounds down. None is guarded against its domain;
+// COT is 1.0 over the tangent, so an argument of 0 gives infinity.
+double (*const kFunctions[])(double) = {
+    [](double x) { return std::sin(x); },       [](double x) { return std::cos(x); },
+    [](double x) { return std::tan(x); },       [](double x) { return std::sqrt(x); },
+    [](double x) { return std::log10(x); },     [](double x) { return std::log(x); },
+    [](double x) { return 1.0 / std::tan(x); }, [](double x) { return std::fabs(x); },
+    [](double x) { return std::floor(x); },     [](double x) { return std::asin(x); },
+    [](double x) { return std::acos(x); },      [](double x) { return std::atan(x); },
+    [](double x) { return std::sinh(x); },      [](double x) { return std::cosh(x); },
+    [](double x) { return std::tanh(x); },      [](double x) { return std::exp(x); },
+    [](double x) { return std::sqrt(x); }};
 
 } // namespace
 
@@ -90,7 +48,8 @@ bool Calculator::Compute() {
     int at = postfix.front;
     for (int k = 0; k < postfix.count; ++k) {
         const CalcToken &token = postfix.items[at];
-        at = (at + 1) % korvane::kCalcCapacity;
+        if (++at == korvane::kCalcCapacity)
+            at = 0;
         const int code = token.code;
         if (code == 0) {
             stack.push(token.value);
