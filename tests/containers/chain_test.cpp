@@ -10,7 +10,7 @@ struct BNode {
     BNode *prev;
     BNode *next;
     int id;
-    double payload[5]; // larger than the links, as real records are
+    double payload[5]; // records are larger than their links
 };
 
 struct SNode {
@@ -22,10 +22,7 @@ BNode *makeB(std::initializer_list<int> ids) {
     BNode *head = nullptr, *last = nullptr;
     for (int id : ids) {
         BNode *n = new BNode{last, nullptr, id, {}};
-        if (last)
-            last->next = n;
-        else
-            head = n;
+        (last ? last->next : head) = n;
         last = n;
     }
     return head;
@@ -41,21 +38,14 @@ SNode *makeS(std::initializer_list<int> ids) {
     return head;
 }
 
-// Walks forwards and backwards, checking every link pair, and returns the ids.
+// The ids front to back, after checking that walking back gives the same.
 std::vector<int> walk(BNode *head) {
-    std::vector<int> ids;
-    if (!head)
-        return ids;
-    EXPECT_EQ(head->prev, nullptr);
-    BNode *last = head;
+    std::vector<int> ids, back;
+    BNode *last = nullptr;
     for (BNode *p = head; p; p = p->next) {
         ids.push_back(p->id);
-        if (p->next) {
-            EXPECT_EQ(p->next->prev, p);
-        }
         last = p;
     }
-    std::vector<int> back;
     for (BNode *p = last; p; p = p->prev)
         back.insert(back.begin(), p->id);
     EXPECT_EQ(back, ids);
@@ -71,76 +61,58 @@ std::vector<int> walk(SNode *head) {
     return ids;
 }
 
+using Ids = std::vector<int>;
+
 TEST(BDChns, InsertAtHeadAndAtTailBuildTheSameChain) {
     BNode *a = makeB({1, 2}), *b = makeB({3, 4, 5});
     EXPECT_EQ(mathInsBDChnsAtHead(a, b), a);
-    EXPECT_EQ(walk(a), (std::vector<int>{1, 2, 3, 4, 5}));
+    EXPECT_EQ(walk(a), (Ids{1, 2, 3, 4, 5}));
     mathFreBDChns(a);
-
     a = makeB({1, 2});
     b = makeB({3, 4, 5});
     EXPECT_EQ(mathInsBDChnsAtTail(b, a), a);
-    EXPECT_EQ(walk(a), (std::vector<int>{1, 2, 3, 4, 5}));
-    mathFreBDChns(a);
-}
-
-TEST(BDChns, InsertAtWithANullSideReturnsTheOtherUntouched) {
-    BNode *a = makeB({1, 2});
+    EXPECT_EQ(walk(a), (Ids{1, 2, 3, 4, 5}));
+    // A null side returns the other, untouched.
     EXPECT_EQ(mathInsBDChnsAtHead(a, nullptr), a);
     EXPECT_EQ(mathInsBDChnsAtTail(a, nullptr), a);
     EXPECT_EQ(mathInsBDChnsAtHead(nullptr, a), a);
     EXPECT_EQ(mathInsBDChnsAtTail(nullptr, a), a);
-    EXPECT_EQ(walk(a), (std::vector<int>{1, 2}));
-    EXPECT_EQ(mathInsBDChnsAtHead(nullptr, nullptr), nullptr);
-    mathFreBDChns(a);
-}
-
-TEST(BDChns, DeletingTheOnlyNodeGivesTheEmptyChain) {
-    BNode *a = makeB({7});
-    EXPECT_EQ(mathDelItemInBDChns(a, a), nullptr);
+    EXPECT_EQ(walk(a), (Ids{1, 2, 3, 4, 5}));
     mathFreBDChns(a);
 }
 
 TEST(BDChns, DeleteUnlinksWithoutReleasingAndKeepsTheNodesLinks) {
+    BNode *single = makeB({7});
+    EXPECT_EQ(mathDelItemInBDChns(single, single), nullptr);
+    mathFreBDChns(single);
+
     BNode *a = makeB({1, 2, 3, 4});
     BNode *n1 = a, *n2 = a->next, *n3 = n2->next, *n4 = n3->next;
-
     BNode *head = static_cast<BNode *>(mathDelItemInBDChns(n1, a));
     EXPECT_EQ(head, n2);
-    EXPECT_EQ(walk(head), (std::vector<int>{2, 3, 4}));
-    EXPECT_EQ(n1->next, n2); // the unlinked node still points into the chain
-
+    EXPECT_EQ(head->prev, nullptr);
+    EXPECT_EQ(n1->next, n2); // a caller may walk on from the unlinked node
     EXPECT_EQ(mathDelItemInBDChns(n3, head), head);
-    EXPECT_EQ(walk(head), (std::vector<int>{2, 4}));
     EXPECT_EQ(n3->prev, n2);
     EXPECT_EQ(n3->next, n4);
-
-    EXPECT_EQ(mathDelItemInBDChns(n4, head), head); // the last node
-    EXPECT_EQ(walk(head), (std::vector<int>{2}));
+    EXPECT_EQ(mathDelItemInBDChns(n4, head), head);
+    EXPECT_EQ(walk(head), (Ids{2}));
     EXPECT_EQ(mathDelItemInBDChns(nullptr, head), head);
-    EXPECT_EQ(mathDelItemInBDChns(n4, nullptr), nullptr);
-
-    n1->next = n3->next = n4->next = nullptr;
-    mathFreBDChns(head);
-    mathFreBDChns(n1);
-    mathFreBDChns(n3);
-    mathFreBDChns(n4);
+    n1->next = n3->next = nullptr;
+    for (BNode *n : {head, n1, n3, n4})
+        mathFreBDChns(n);
 }
 
-TEST(BDChns, InsertItemPushesOneNodeAtTheHead) {
-    BNode *a = makeB({2, 3});
-    BNode *x = makeB({1});
-    x->prev = x->next = x; // stale links are overwritten
-    EXPECT_EQ(mathInsItemInBDChns(x, a), x);
-    EXPECT_EQ(walk(x), (std::vector<int>{1, 2, 3}));
-    EXPECT_EQ(mathInsItemInBDChns(nullptr, x), x);
-
-    BNode *y = makeB({9});
+TEST(BDChns, InsertItemResetsTheLinksOfTheNode) {
+    BNode *a = makeB({2, 3}), *x = makeB({1}), *y = makeB({9});
+    x->prev = x->next = x;
     y->prev = y->next = y;
+    EXPECT_EQ(mathInsItemInBDChns(x, a), x);
+    EXPECT_EQ(walk(x), (Ids{1, 2, 3}));
+    EXPECT_EQ(mathInsItemInBDChns(nullptr, x), x);
     EXPECT_EQ(mathInsItemInBDChns(y, nullptr), y);
     EXPECT_EQ(y->prev, nullptr);
     EXPECT_EQ(y->next, nullptr);
-    EXPECT_EQ(mathInsItemInBDChns(nullptr, nullptr), nullptr);
     mathFreBDChns(x);
     mathFreBDChns(y);
 }
@@ -148,54 +120,34 @@ TEST(BDChns, InsertItemPushesOneNodeAtTheHead) {
 TEST(BDChns, ReverseTwiceRestoresTheChain) {
     BNode *a = makeB({1, 2, 3, 4});
     BNode *r = static_cast<BNode *>(mathRevBDChns(a));
-    EXPECT_EQ(walk(r), (std::vector<int>{4, 3, 2, 1}));
+    EXPECT_EQ(walk(r), (Ids{4, 3, 2, 1}));
     EXPECT_EQ(mathRevBDChns(r), a);
-    EXPECT_EQ(walk(a), (std::vector<int>{1, 2, 3, 4}));
+    EXPECT_EQ(walk(a), (Ids{1, 2, 3, 4}));
     EXPECT_EQ(mathRevBDChns(nullptr), nullptr);
-    EXPECT_EQ(mathGetNumOfItemInBDChns(nullptr), 0);
     mathFreBDChns(a);
     mathFreBDChns(nullptr);
 }
 
-TEST(SDChns, InsertAtHeadAndAtTailBuildTheSameChain) {
+TEST(SDChns, InsertDeleteAndPush) {
     SNode *a = makeS({1, 2}), *b = makeS({3});
     EXPECT_EQ(mathInsSDChnsAtHead(a, b), a);
-    EXPECT_EQ(walk(a), (std::vector<int>{1, 2, 3}));
-    mathFreSDChns(a);
-
-    a = makeS({1, 2});
-    b = makeS({3});
-    EXPECT_EQ(mathInsSDChnsAtTail(b, a), a);
-    EXPECT_EQ(walk(a), (std::vector<int>{1, 2, 3}));
+    EXPECT_EQ(mathInsSDChnsAtTail(makeS({4}), a), a);
     EXPECT_EQ(mathInsSDChnsAtTail(nullptr, a), a);
     EXPECT_EQ(mathInsSDChnsAtHead(a, nullptr), a);
-    EXPECT_EQ(mathInsSDChnsAtHead(nullptr, a), a);
-    EXPECT_EQ(mathInsSDChnsAtTail(a, nullptr), a);
-    EXPECT_EQ(walk(a), (std::vector<int>{1, 2, 3}));
-    mathFreSDChns(a);
-}
+    EXPECT_EQ(walk(a), (Ids{1, 2, 3, 4}));
 
-TEST(SDChns, DeleteFindsThePredecessorAndIgnoresStrangers) {
-    SNode *a = makeS({1, 2, 3});
-    SNode *n1 = a, *n3 = a->next->next;
     SNode *stranger = makeS({9});
-
-    EXPECT_EQ(mathDelItemInSDChns(stranger, a), a);
-    EXPECT_EQ(walk(a), (std::vector<int>{1, 2, 3}));
-    EXPECT_EQ(mathDelItemInSDChns(n3, a), a);
-    EXPECT_EQ(walk(a), (std::vector<int>{1, 2}));
-    SNode *head = static_cast<SNode *>(mathDelItemInSDChns(n1, a));
-    EXPECT_EQ(walk(head), (std::vector<int>{2}));
-    EXPECT_EQ(mathDelItemInSDChns(nullptr, head), head);
-
-    n1->next = nullptr;
-    EXPECT_EQ(mathInsItemInSDChns(n1, head), n1);
-    EXPECT_EQ(mathInsItemInSDChns(nullptr, n1), n1);
-    EXPECT_EQ(walk(n1), (std::vector<int>{1, 2}));
-    mathFreSDChns(n1);
-    mathFreSDChns(n3);
-    mathFreSDChns(stranger);
-    mathFreSDChns(nullptr);
+    EXPECT_EQ(mathDelItemInSDChns(stranger, a), a); // not a member: no change
+    EXPECT_EQ(mathDelItemInSDChns(b, a), a);
+    EXPECT_EQ(walk(a), (Ids{1, 2, 4}));
+    SNode *head = static_cast<SNode *>(mathDelItemInSDChns(a, a));
+    EXPECT_EQ(walk(head), (Ids{2, 4}));
+    EXPECT_EQ(mathInsItemInSDChns(stranger, head), stranger);
+    EXPECT_EQ(mathInsItemInSDChns(nullptr, stranger), stranger);
+    EXPECT_EQ(walk(stranger), (Ids{9, 2, 4}));
+    a->next = b->next = nullptr;
+    for (SNode *n : {stranger, a, b})
+        mathFreSDChns(n);
 }
 
 } // namespace

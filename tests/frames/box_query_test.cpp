@@ -94,36 +94,6 @@ TEST(ChkBoxPlnInt, GapSignTellsTheSideOfTheBox) {
     EXPECT_EQ(mathChkBoxPlnInt(box, top, n, 1e-12, &gap), 1);
 }
 
-TEST(ChkBoxPlnInt, ExtremesMatchTheCornersForAnyNormal) {
-    std::mt19937 rng(52);
-    std::uniform_real_distribution<double> u(-2, 2);
-    for (int k = 0; k < 200; ++k) {
-        double box[6], p[3], n[3];
-        for (int i = 0; i < 3; ++i) {
-            const double a = u(rng), b = u(rng);
-            box[i] = std::min(a, b);
-            box[3 + i] = std::max(a, b);
-            p[i] = u(rng);
-            n[i] = u(rng);
-        }
-        double corners[24], lo = 1e300, hi = -1e300;
-        mathCalBox3DCorner(box, corners);
-        for (int c = 0; c < 8; ++c) {
-            lo = std::min(lo, mathOProduct(corners + 3 * c, n));
-            hi = std::max(hi, mathOProduct(corners + 3 * c, n));
-        }
-        const double e = mathOProduct(p, n);
-        if (std::fabs(e - lo) < 1e-9 || std::fabs(e - hi) < 1e-9)
-            continue;
-        double gap;
-        const int r = mathChkBoxPlnInt(box, p, n, 0.0, &gap);
-        EXPECT_EQ(r, (lo < e && e < hi) ? 1 : 0);
-        if (r == 0) {
-            EXPECT_NEAR(gap, e > hi ? hi - e : lo - e, 1e-12);
-        }
-    }
-}
-
 TEST(ChkBox3DIntSph, ASphereAroundTheWholeBoxDoesNotCut) {
     const double box[6] = {0, 0, 0, 1, 1, 1}, c[3] = {0.5, 0.5, 0.5};
     EXPECT_EQ(mathChkBox3DIntSph(box, c, 2.0, 1e-10), 0); // far distance is sqrt(0.75)
