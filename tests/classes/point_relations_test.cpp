@@ -127,6 +127,11 @@ TEST(IsOnSeg, ThreeDimensionsMeasureTheDetour) {
     EXPECT_EQ(point_2d(1, 1e-4f).IsOnSeg(point_2d(0, 0), point_2d(2, 1e-3f)), 0);
     EXPECT_EQ(point_2d(1, 0).IsOn(point_2d(5, 0), point_2d(7, 0)), 1);
     EXPECT_EQ(point_2d(1, 0).IsOnSeg(point_2d(5, 0), point_2d(7, 0)), 0);
+    GmGuard guard;
+    gmSetAbsDistTol(0.5); // a distance equal to the tolerance is off
+    EXPECT_EQ(point_2d(0, 0.5f).IsOn(point_2d(-1, 0), point_2d(1, 0)), 0);
+    EXPECT_EQ(point_2d(0, 0.5f).IsOnSeg(point_2d(-1, 0), point_2d(1, 0)), 0);
+    EXPECT_EQ(point_2d(0, 0.25f).IsOnSeg(point_2d(-1, 0), point_2d(1, 0)), 1);
 }
 
 TEST(IsPtsColine, ToleranceItselfPasses) {

@@ -213,6 +213,24 @@ TEST(PointAngles, AxisAnglesSnapAndWrap) {
     EXPECT_EQ(point_3d(1.0f, 0.0f, 0.0f).AngleToZAxis(), 1.5707964f);
 }
 
+TEST(PointAngles, SnapIncludesTheToleranceItself) {
+    GmGuard guard;
+    const double twoPi = 6.2831854820251465;
+    point_2d below(1.0f, -0.01f), above(1.0f, 0.01f);
+    double gapBelow = std::fabs(std::atan2(-0.01f, 1.0) + twoPi - twoPi);
+    double gapAbove = std::atan2(0.01f, 1.0);
+    gmSetParaTol(gapBelow);
+    EXPECT_EQ(below.AngleToXAxis(), 6.2831855f);
+    gmSetParaTol(std::nextafter(gapBelow, 0.0));
+    EXPECT_LT(below.AngleToXAxis(), 6.2831855f);
+    gmSetParaTol(gapAbove);
+    EXPECT_EQ(above.AngleToXAxis(), 0.0f);
+    gmSetParaTol(std::nextafter(gapAbove, 0.0));
+    EXPECT_GT(above.AngleToXAxis(), 0.0f);
+    gmSetAbsParaTol(gapAbove); // 3D reads its own tolerance
+    EXPECT_EQ(point_3d(1.0f, 0.01f, 5.0f).AngleToXAxis(), 0.0f);
+}
+
 TEST(PointArithmetic, MatrixProductIsRowVectorOnEitherSide) {
     float m[9] = {0.0f, 1.0f, 99.0f, -1.0f, 0.0f, 99.0f, 5.0f, 6.0f, 99.0f};
     point_2d p(2.0f, 3.0f);
