@@ -11,7 +11,7 @@ namespace {
 // ---- Pick frame ----------------------------------------------------------------
 
 // Index of the component of least magnitude, the first among equals.
-int minAbsIndex(const double *a, int n) {
+int MinAbsIndex(const double *a, int n) {
     int k = 0;
     for (int i = 1; i < n; ++i)
         if (std::fabs(a[i]) < std::fabs(a[k]))
@@ -29,7 +29,7 @@ struct PickFrame {
         // The cross axis is built on the smallest component of dir, so it is
         // never zero for a line along a coordinate axis.
         u[0] = u[1] = u[2] = 0.0;
-        switch (minAbsIndex(d, 3)) {
+        switch (MinAbsIndex(d, 3)) {
         case 0:
             u[1] = d[2];
             u[2] = -d[1];
@@ -145,10 +145,12 @@ struct Window {
         return {x * m[0] + y * m[4] + z * m[8] + m[12], x * m[1] + y * m[5] + z * m[9] + m[13]};
     }
 
-    bool inside(const Win &p) const { return lox < p.x && p.x < hix && loy < p.y && p.y < hiy; }
+    bool WinPointInside(const Win &p) const {
+        return lox < p.x && p.x < hix && loy < p.y && p.y < hiy;
+    }
 
     // Rejects a segment that lies wholly beyond one side of the widened window.
-    bool mayCross(const Win &a, const Win &b) const {
+    bool WinSegmentMayCross(const Win &a, const Win &b) const {
         if (a.x < lox && b.x < lox)
             return false;
         if (a.y < loy && b.y < loy)
@@ -170,7 +172,7 @@ bool bothAbove(double a, double b, double c, double d, double e) {
 }
 
 // Segment a-b against the window edge c-d.
-bool crossesEdge(const Win &a, const Win &b, const Win &c, const Win &d) {
+bool WinSegmentCrossEdge(const Win &a, const Win &b, const Win &c, const Win &d) {
     double e = korvane::gDistTol;
     if (bothBelow(a.x, b.x, c.x, d.x, e) || bothBelow(a.y, b.y, c.y, d.y, e) ||
         bothAbove(a.x, b.x, c.x, d.x, e) || bothAbove(a.y, b.y, c.y, d.y, e))
@@ -193,16 +195,16 @@ int touchesWindow(const P *pts, int n, const double *m, const double *wmin, cons
     double x, y, z;
     vertexOf(pts[0], x, y, z);
     Win prev = w.map(x, y, z);
-    if (w.inside(prev))
+    if (w.WinPointInside(prev))
         return 1;
     for (int i = 1; i < n; ++i) {
         vertexOf(pts[i], x, y, z);
         Win cur = w.map(x, y, z);
-        if (w.mayCross(prev, cur)) {
-            if (w.inside(cur))
+        if (w.WinSegmentMayCross(prev, cur)) {
+            if (w.WinPointInside(cur))
                 return 1;
             for (int k = 0; k < 4; ++k)
-                if (crossesEdge(prev, cur, w.c[k], w.c[(k + 1) % 4]))
+                if (WinSegmentCrossEdge(prev, cur, w.c[k], w.c[(k + 1) % 4]))
                     return 1;
         }
         prev = cur;

@@ -28,67 +28,36 @@ TEST(Tolerances, DefaultsAndSettersStoreWithoutValidation) {
 TEST(PointLayout, NdPointsArePackedPlainValues) {
     EXPECT_EQ(sizeof(nd_point_2d), 10u);
     EXPECT_EQ(sizeof(nd_point_3d), 14u);
-    EXPECT_EQ(sizeof(point_2d), 8u);
-    EXPECT_EQ(sizeof(point_3d), 12u);
-    EXPECT_EQ(sizeof(point_4d), 16u);
     nd_point_2d arr[3];
     EXPECT_EQ(reinterpret_cast<char *>(&arr[1]) - reinterpret_cast<char *>(&arr[0]), 10);
-    EXPECT_TRUE(std::is_trivially_copyable<point_3d>::value);
-    EXPECT_TRUE(std::is_trivially_copyable<nd_point_2d>::value);
     EXPECT_TRUE(std::is_trivially_copyable<TRANSF_3D>::value);
     EXPECT_TRUE(std::is_trivially_copyable<Box3D>::value);
-    EXPECT_EQ(arr[2].tag, 0);
-    point_4d w;
-    EXPECT_EQ(w.w, 1.0f);
 }
 
-TEST(PointAssign, TagBelongsToTheLeftSide) {
+TEST(PointAssign, TagBelongsToTheLeftSideMissingFieldsAreFixed) {
     nd_point_2d nd;
     nd.tag = 7;
-    nd = point_2d(1.0f, 2.0f);
-    EXPECT_EQ(nd.tag, 7);
-    EXPECT_EQ(nd.y, 2.0f);
     nd = point_3d(3.0f, 4.0f, 5.0f);
     EXPECT_EQ(nd.tag, 7);
     EXPECT_EQ(nd.x, 3.0f);
-    nd_point_2d other;
-    other = nd;
-    EXPECT_EQ(other.tag, 7);
     point_2d p(9.0f, 9.0f);
-    p = nd;
-    EXPECT_EQ(p.x, 3.0f);
+    p = nd; // the tag is lost
     EXPECT_EQ(p.y, 4.0f);
-
     nd_point_3d nd3;
     nd3.tag = -2;
     nd3 = point_3d(1.0f, 2.0f, 3.0f);
     EXPECT_EQ(nd3.tag, -2);
-    EXPECT_EQ(nd3.z, 3.0f);
-}
 
-TEST(PointAssign, MissingFieldsTakeFixedValues) {
     point_4d h(5.0f, 6.0f, 7.0f, 8.0f);
     h = point_3d(1.0f, 2.0f, 3.0f);
     EXPECT_EQ(h.w, 1.0f);
-    EXPECT_EQ(h.z, 3.0f);
     h.Set(5.0f, 6.0f, 7.0f, 8.0f);
     h = point_2d(1.0f, 2.0f);
     EXPECT_EQ(h.z, 0.0f);
     EXPECT_EQ(h.w, 1.0f);
-    nd_point_3d nd3;
-    nd3.x = 4.0f;
-    h.w = 3.0f;
-    h = nd3;
-    EXPECT_EQ(h.x, 4.0f);
-    EXPECT_EQ(h.w, 1.0f);
-
     point_3d q(1.0f, 2.0f, 3.0f);
     q = point_2d(4.0f, 5.0f);
     EXPECT_EQ(q.z, 0.0f);
-    point_2d p;
-    p = point_3d(7.0f, 8.0f, 9.0f);
-    EXPECT_EQ(p.x, 7.0f);
-    EXPECT_EQ(p.y, 8.0f);
 }
 
 TEST(PointAccess, AnyOtherIndexGivesX) {
@@ -97,28 +66,13 @@ TEST(PointAccess, AnyOtherIndexGivesX) {
     EXPECT_EQ(&p[-1], &p.x);
     EXPECT_EQ(&p[1], &p.y);
     point_3d q(1.0f, 2.0f, 3.0f);
-    EXPECT_EQ(q[2], 3.0f);
+    EXPECT_EQ(&q[2], &q.z);
     EXPECT_EQ(&q[3], &q.x);
-    q[1] = 8.0f;
-    EXPECT_EQ(q.y, 8.0f);
-    const float *raw = q;
-    EXPECT_EQ(raw[2], 3.0f);
-}
-
-TEST(PointAccess, FloatPointerConstructorLeavesPointerAlone) {
-    const float data[4] = {1.0f, 2.0f, 3.0f, 4.0f};
+    const float data[3] = {1.0f, 2.0f, 3.0f};
     const float *cur = data;
-    point_3d q(cur);
-    point_4d h(cur);
+    point_3d r(cur); // reads without advancing
     EXPECT_EQ(cur, data);
-    EXPECT_EQ(q.z, 3.0f);
-    EXPECT_EQ(h.w, 4.0f);
-    point_2d p;
-    p.Set(cur);
-    EXPECT_EQ(p.y, 2.0f);
-    float w[2] = {6.0f, 7.0f};
-    p(w);
-    EXPECT_EQ(p.x, 6.0f);
+    EXPECT_EQ(r.z, 3.0f);
 }
 
 TEST(PointEquality, TwoDimensionsAllowTenTimesTheTolerance) {
@@ -239,10 +193,6 @@ TEST(PointArithmetic, MatrixProductIsRowVectorOnEitherSide) {
     EXPECT_EQ(a.y, 2.0f + 6.0f);
     EXPECT_EQ(b.x, a.x);
     EXPECT_EQ(b.y, a.y);
-    float m3[3][3] = {{0, 1, 0}, {-1, 0, 0}, {5, 6, 1}};
-    EXPECT_EQ((p * m3).x, a.x);
-    p *= m;
-    EXPECT_EQ(p.y, a.y);
 
     float n[16] = {1, 0, 0, 42, 0, 2, 0, 42, 0, 0, 3, 42, 10, 20, 30, 42};
     point_3d q(1.0f, 1.0f, 1.0f);
@@ -263,20 +213,6 @@ TEST(PointArithmetic, ProductsAgreeWithTheSpaceCrossProduct) {
     EXPECT_FLOAT_EQ(p.Xproduct(a), p3.Xproduct(a3).z);
     point_3d c(0.5f, 1.0f, -2.0f);
     EXPECT_FLOAT_EQ(p3.HybridProduct(a3 + c, c), p3.Xproduct(a3 + c).Iproduct(c));
-}
-
-TEST(PointArithmetic, InverseLeavesObjectReverseChangesIt) {
-    point_3d p(1.0f, -2.0f, 3.0f);
-    point_3d n = p.Inverse();
-    EXPECT_EQ(p.x, 1.0f);
-    EXPECT_EQ(n.y, 2.0f);
-    EXPECT_EQ((-p).z, -3.0f);
-    p.Reverse();
-    EXPECT_EQ(p.x, -1.0f);
-    point_4d h(1.0f, 2.0f, 3.0f, 4.0f);
-    h += point_4d(1.0f, 1.0f, 1.0f, 1.0f);
-    EXPECT_EQ(h.w, 5.0f);
-    EXPECT_EQ((h * 2.0f).w, 10.0f);
 }
 
 } // namespace
