@@ -11,149 +11,96 @@ double dot(const double *a, const double *b) {
     return a[0] * b[0] + a[1] * b[1] + a[2] * b[2];
 }
 
-TEST(SolLineEqua22, SolvesOrLeavesOutputsUntouched) {
-    double x = 7.0, y = 7.0;
-    ASSERT_EQ(mathSolLineEqua22(2, 1, 1, 3, 5, 10, 1e-12, &x, &y), 1); // x = 1, y = 3
-    EXPECT_NEAR(x, 1.0, 1e-15);
-    EXPECT_NEAR(y, 3.0, 1e-15);
-    x = y = 7.0;
-    // det = 1e-3: refused below tol, accepted at it.
+TEST(SolLineEqua, TwoAndThreeUnknownsByCramer) {
+    double x = 7.0, y = 7.0, z = 7.0, m[9], s[3], b[3];
+    // det = 1e-3: refused below tol with the outputs untouched, accepted at it.
     EXPECT_EQ(mathSolLineEqua22(1, 0, 0, 1e-3, 1, 1, 2e-3, &x, &y), 0);
-    EXPECT_EQ(x, 7.0);
-    EXPECT_EQ(y, 7.0);
+    EXPECT_TRUE(x == 7.0 && y == 7.0);
     EXPECT_EQ(mathSolLineEqua22(1, 0, 0, 1e-3, 1, 1, 1e-3, &x, &y), 1);
-}
-
-TEST(SolLineEqua33, CramerAgreesWithAKnownSolution) {
+    EXPECT_EQ(mathSolLineEqua33(1, 2, 3, 2, 4, 6, 0, 1, 1, 1, 2, 3, 1e-12, &x, &y, &z), 0);
+    EXPECT_EQ(z, 7.0);
     std::mt19937 gen(41);
     std::uniform_real_distribution<double> u(-1.0, 1.0);
     for (int trial = 0; trial < 100; ++trial) {
-        double m[9], s[3], b[3];
-        for (double &v : m)
-            v = u(gen);
+        for (int i = 0; i < 9; ++i)
+            m[i] = u(gen) + (i % 4 == 0 ? 2.0 : 0.0);
         for (int i = 0; i < 3; ++i)
-            m[4 * i] += 2.0;
-        for (double &v : s)
-            v = u(gen);
+            s[i] = u(gen);
         for (int i = 0; i < 3; ++i)
             b[i] = dot(m + 3 * i, s);
-        double x, y, z;
         ASSERT_EQ(mathSolLineEqua33(m[0], m[1], m[2], m[3], m[4], m[5], m[6], m[7], m[8], b[0],
                                     b[1], b[2], 1e-12, &x, &y, &z),
                   1);
-        EXPECT_NEAR(x, s[0], 1e-13);
+        EXPECT_TRUE(std::fabs(x - s[0]) < 1e-13 && std::fabs(z - s[2]) < 1e-13);
+        ASSERT_EQ(mathSolLineEqua22(m[0], m[1], m[3], m[4], m[0] * s[0] + m[1] * s[1],
+                                    m[3] * s[0] + m[4] * s[1], 1e-12, &x, &y),
+                  1);
         EXPECT_NEAR(y, s[1], 1e-13);
-        EXPECT_NEAR(z, s[2], 1e-13);
     }
-    double x = 7.0, y = 7.0, z = 7.0;
-    EXPECT_EQ(mathSolLineEqua33(1, 2, 3, 2, 4, 6, 0, 1, 1, 1, 2, 3, 1e-12, &x, &y, &z), 0);
-    EXPECT_EQ(x, 7.0);
 }
 
 TEST(SolHomoEqua22, UnitSolutionPerpendicularToTheLongerRow) {
     double r[2] = {7.0, 7.0};
     EXPECT_EQ(mathSolHomoEqua22(1e-11, 0, 0, 1e-11, 1e-10, r), 100);
-    EXPECT_EQ(r[0], 0.0);
-    EXPECT_EQ(r[1], 0.0);
-    // Dependent rows (1, 2) and (3, 6): the null direction (-2, 1) / sqrt 5.
-    ASSERT_EQ(mathSolHomoEqua22(1, 2, 3, 6, 1e-12, r), 1);
-    EXPECT_NEAR(r[0], -6.0 / std::sqrt(45.0), 1e-15);
-    EXPECT_NEAR(r[1], 3.0 / std::sqrt(45.0), 1e-15);
-    // Equal lengths take the second row; the first row then fails.
+    EXPECT_TRUE(r[0] == 0.0 && r[1] == 0.0);
+    ASSERT_EQ(mathSolHomoEqua22(1, 2, 3, 6, 1e-12, r), 1); // null direction (-2, 1)
+    EXPECT_NEAR(r[0], -2.0 / std::sqrt(5.0), 1e-15);
+    EXPECT_NEAR(r[1], 1.0 / std::sqrt(5.0), 1e-15);
+    // Equal lengths take the second row; the first then leaves a residual.
     ASSERT_EQ(mathSolHomoEqua22(1, 0, 0, 1, 1e-12, r), 0);
-    EXPECT_EQ(r[0], -1.0);
-    EXPECT_EQ(r[1], 0.0);
-    // A residual equal to tol still passes.
-    EXPECT_EQ(mathSolHomoEqua22(0.5, 0, 0, 1, 0.5, r), 1);
+    EXPECT_TRUE(r[0] == -1.0 && r[1] == 0.0);
+    EXPECT_EQ(mathSolHomoEqua22(0.5, 0, 0, 1, 0.5, r), 1); // residual == tol passes
 }
 
-TEST(DecVec, ReconstructsTheVector) {
+TEST(DecVec, ReconstructsTheVectorAndTakesMinimumNormOnASingularBasis) {
     std::mt19937 gen(42);
     std::uniform_real_distribution<double> u(-1.0, 1.0);
+    double e[9], v[3], a, b, c;
     for (int trial = 0; trial < 50; ++trial) {
-        double e1[3], e2[3], e3[3], v[3];
-        for (int i = 0; i < 3; ++i) {
-            e1[i] = u(gen) + (i == 0 ? 2.0 : 0.0);
-            e2[i] = u(gen) + (i == 1 ? 2.0 : 0.0);
-            e3[i] = u(gen) + (i == 2 ? 2.0 : 0.0);
-            v[i] = u(gen);
-        }
-        double a, b, c;
-        ASSERT_EQ(mathDecVec(v, e1, e2, e3, &a, &b, &c), 1);
+        for (int i = 0; i < 9; ++i)
+            e[i] = u(gen) + (i % 4 == 0 ? 2.0 : 0.0);
+        for (double &x : v)
+            x = u(gen);
+        ASSERT_EQ(mathDecVec(v, e, e + 3, e + 6, &a, &b, &c), 1);
         for (int i = 0; i < 3; ++i)
-            EXPECT_NEAR(a * e1[i] + b * e2[i] + c * e3[i], v[i], 1e-13);
+            EXPECT_NEAR(a * e[i] + b * e[3 + i] + c * e[6 + i], v[i], 1e-13);
     }
+    const double e1[3] = {1, 0, 0}, e2[3] = {0, 1, 0}, e3[3] = {1, 1, 0}, w[3] = {2, 4, 0};
+    ASSERT_EQ(mathDecVec(w, e1, e2, e3, &a, &b, &c), 1);
+    EXPECT_TRUE(std::fabs(a + c - 2.0) < 1e-14 && std::fabs(b + c - 4.0) < 1e-14);
+    EXPECT_NEAR(a + b - c, 0.0, 1e-14); // orthogonal to the null space
 }
 
-TEST(DecVec, SingularBasisGivesMinimumNormComponents) {
-    const double e1[3] = {1, 0, 0}, e2[3] = {0, 1, 0}, e3[3] = {1, 1, 0};
-    const double v[3] = {2, 4, 0};
-    double a, b, c;
-    ASSERT_EQ(mathDecVec(v, e1, e2, e3, &a, &b, &c), 1);
-    EXPECT_NEAR(a + c, 2.0, 1e-14);
-    EXPECT_NEAR(b + c, 4.0, 1e-14);
-    EXPECT_NEAR(a + b - c, 0.0, 1e-14); // orthogonal to the null space (1, 1, -1)
+TEST(SolLeastSquare, ShortestSolutionForParallelColumns) {
+    const double zero[3] = {0, 0, 0}, b[3] = {1, 2, 2}, twice[3] = {2, 4, 4}, c3[3] = {3, 3, 3};
+    const double minus[3] = {-2, -4, -4};
+    double x = 7.0, s[2];
+    EXPECT_TRUE(mathSolLeastSquare31(zero, c3, &x) == 1 && x == 0.0);
+    EXPECT_TRUE(mathSolLeastSquare31(b, c3, &x) == 1 && x == 15.0 / 9.0);
+    // 2 x0 + x1 = 1 at least length: (2, 1) / 5; the sign follows a.
+    ASSERT_EQ(mathSolLeastSquare32(twice, b, b, s), 1);
+    EXPECT_TRUE(std::fabs(s[0] - 0.4) < 1e-15 && std::fabs(s[1] - 0.2) < 1e-15);
+    ASSERT_EQ(mathSolLeastSquare32(minus, b, b, s), 1);
+    EXPECT_NEAR(s[0], -0.4, 1e-15);
+    ASSERT_EQ(mathSolLeastSquare32(zero, zero, b, s), 1);
+    EXPECT_TRUE(s[0] == 0.0 && s[1] == 0.0);
 }
 
-TEST(SolLeastSquare, ScalarAndTwoColumnProblems) {
-    const double zero[3] = {0, 0, 0}, a[3] = {1, 2, 2}, b[3] = {3, 3, 3};
-    double x = 7.0;
-    EXPECT_EQ(mathSolLeastSquare31(zero, b, &x), 1);
-    EXPECT_EQ(x, 0.0);
-    EXPECT_EQ(mathSolLeastSquare31(a, b, &x), 1);
-    EXPECT_EQ(x, 15.0 / 9.0);
-
-    const double p[3] = {1, 0, 2}, q[3] = {0, 1, 1};
-    double c[3], s[2];
-    for (int i = 0; i < 3; ++i)
-        c[i] = 2.0 * p[i] - 3.0 * q[i];
-    ASSERT_EQ(mathSolLeastSquare32(p, q, c, s), 1);
-    EXPECT_NEAR(s[0], 2.0, 1e-14);
-    EXPECT_NEAR(s[1], -3.0, 1e-14);
-}
-
-TEST(SolLeastSquare32, ParallelColumnsGiveTheShortestSolution) {
-    const double b[3] = {1, 2, 2}, twice[3] = {2, 4, 4}, minus[3] = {-2, -4, -4};
-    double x[2];
-    // 2 x0 + x1 = 1 at least length: (2, 1) / 5.
-    ASSERT_EQ(mathSolLeastSquare32(twice, b, b, x), 1);
-    EXPECT_NEAR(x[0], 0.4, 1e-15);
-    EXPECT_NEAR(x[1], 0.2, 1e-15);
-    ASSERT_EQ(mathSolLeastSquare32(minus, b, b, x), 1);
-    EXPECT_NEAR(x[0], -0.4, 1e-15);
-    EXPECT_NEAR(x[1], 0.2, 1e-15);
-    const double zero[3] = {0, 0, 0};
-    ASSERT_EQ(mathSolLeastSquare32(zero, zero, b, x), 1);
-    EXPECT_EQ(x[0], 0.0);
-    EXPECT_EQ(x[1], 0.0);
-}
-
-TEST(SolLeastSquareLin, ConnectingSegmentIsPerpendicularToBothLines) {
+TEST(SolLeastSquareLin, ConnectingSegmentIsPerpendicularOrFeetOfTheMidpoint) {
     std::mt19937 gen(43);
     std::uniform_real_distribution<double> u(-2.0, 2.0);
+    double p[12], r[2], w[3];
     for (int trial = 0; trial < 100; ++trial) {
-        double p0[3], d0[3], p1[3], d1[3], r[2];
-        for (int i = 0; i < 3; ++i) {
-            p0[i] = u(gen);
-            d0[i] = u(gen);
-            p1[i] = u(gen);
-            d1[i] = u(gen);
-        }
-        ASSERT_EQ(mathSolLeastSquareLin(p0, d0, p1, d1, r), 1);
-        double w[3];
+        for (double &v : p)
+            v = u(gen);
+        ASSERT_EQ(mathSolLeastSquareLin(p, p + 3, p + 6, p + 9, r), 1);
         for (int i = 0; i < 3; ++i)
-            w[i] = p0[i] + r[0] * d0[i] - p1[i] - r[1] * d1[i];
-        EXPECT_NEAR(dot(w, d0), 0.0, 1e-11);
-        EXPECT_NEAR(dot(w, d1), 0.0, 1e-11);
+            w[i] = p[i] + r[0] * p[3 + i] - p[6 + i] - r[1] * p[9 + i];
+        EXPECT_TRUE(std::fabs(dot(w, p + 3)) < 1e-11 && std::fabs(dot(w, p + 9)) < 1e-11);
     }
-}
-
-TEST(SolLeastSquareLin, ParallelLinesTakeTheFeetOfTheMidpoint) {
-    const double p0[3] = {0, 0, 0}, d[3] = {1, 0, 0}, p1[3] = {4, 1, 0};
-    double r[2];
-    ASSERT_EQ(mathSolLeastSquareLin(p0, d, p1, d, r), 1);
-    EXPECT_EQ(r[0], 2.0);
-    EXPECT_EQ(r[1], -2.0);
+    const double o[3] = {0, 0, 0}, d[3] = {1, 0, 0}, q[3] = {4, 1, 0};
+    ASSERT_EQ(mathSolLeastSquareLin(o, d, q, d, r), 1);
+    EXPECT_TRUE(r[0] == 2.0 && r[1] == -2.0);
 }
 
 } // namespace
