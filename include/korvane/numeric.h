@@ -23,7 +23,9 @@ KORVANE_BEGIN_C
  *   a > 0:  d > tol none, -tol < d <= tol one, d <= -tol two;
  *   a <= 0: d < -tol none, -tol <= d < tol one, d >= tol two.
  * With none or one root both slots hold the vertex (a double root is counted
- * once but stands twice). Two roots come in cancellation-free form, unordered. */
+ * once but stands twice). Two roots come in cancellation-free form, unordered.
+ * The linear test is strict, so a == b == c == 0 is not an identity: it
+ * divides by a and reports 2 NaNs. */
 KORVANE_API int mathSolQuadEqua(double a, double b, double c, double tol, double *r);
 /* Cubic c[0..3] into r[3] by Cardano (one real root, result 1) or by the
  * trigonometric form (three, result 3). A discriminant below 1e-30 in
@@ -35,7 +37,8 @@ KORVANE_API int mathSolTriaEqua(const double *c, double tol, double *r);
  * resolvent cubic. The two quadratic factors are solved with tolerance
  * tol / |c[0]|, the first factor's roots first; equal roots of the two factors
  * are not merged and a double root of a factor counts once. Known blind spots
- * kept as they are: x^4 and x^4 - 1 report no root, (x-1)^2 (x-2)^2 gives 2.
+ * kept as they are: x^4 reports no root, x^4 - 1 never reports 1 or -1 (at
+ * most two spurious values near 0, as tol allows), (x-1)^2 (x-2)^2 gives 2.
  * A negligible c[0] hands over to mathSolTriaEqua(c + 1, tol, r). */
 KORVANE_API int mathSolQuarEqua(const double *c, double tol, double *r);
 /* Roots of the degree-n polynomial c[0..n] (n from 1 to 4, else 0 without
@@ -52,9 +55,10 @@ KORVANE_API int mathSolUnivEqua(double (*f)(double), double (*df)(double), doubl
                                 double tol, double *x);
 
 /* a cos t + b sin t = c for t in [0, 2 pi], into r[2] (r starts as 0, pi/2).
- * 100 when the amplitude is zero (or within tol of c from both sides) and c is
- * within tol of 0; 0 when |c| exceeds the amplitude by more than tol. A tangent
- * root is one root, written twice; two roots are unordered. */
+ * 100 when the amplitude sqrt(a^2 + b^2) is below 1e-20 and |c| < tol, or
+ * when c is within tol of both the amplitude and its negative; 0 when |c|
+ * exceeds the amplitude by more than tol. A tangent root is one root, written
+ * twice; two roots are unordered. */
 KORVANE_API int mathSolExpoEqua(double a, double b, double c, double tol, double *r);
 /* a cos^2 t + b sin t cos t + c sin^2 t = 0 by the double angle: the angles
  * of mathSolExpoEqua halved, so they lie in [0, pi]. On 100, r is left as
