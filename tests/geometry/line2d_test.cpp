@@ -143,12 +143,18 @@ TEST(PolylineOfLin2ds, MiddleLastFirstComesBackAsOneRun) {
     Lin2D *chain = chainOf({middle, last, first}), *result = nullptr;
     EXPECT_EQ(mathGetPolylineOfLin2ds(&chain, 1e-8, &result), 3);
     EXPECT_EQ(chain, nullptr);
-    ASSERT_EQ(result, first);
-    EXPECT_EQ(first->next, middle);
-    EXPECT_EQ(middle->next, last);
-    EXPECT_EQ(last->next, nullptr);
-    EXPECT_EQ(middle->start[0], 1.0); // turned: (1, 0) -> (1, 1)
-    EXPECT_EQ(middle->start[1], 0.0);
+    // The run grows from the middle piece: last joins at its start, first at
+    // its end, each turned to continue the run.
+    ASSERT_EQ(result, last);
+    EXPECT_EQ(last->next, middle);
+    EXPECT_EQ(middle->next, first);
+    EXPECT_EQ(first->next, nullptr);
+    EXPECT_EQ(last->start[0], 2.0);
+    EXPECT_EQ(last->end[0], middle->start[0]);
+    EXPECT_EQ(last->end[1], middle->start[1]);
+    EXPECT_EQ(middle->end[0], first->start[0]);
+    EXPECT_EQ(middle->end[1], first->start[1]);
+    EXPECT_EQ(first->end[0], 0.0);
     mathFreSDChns(result);
 }
 

@@ -17,11 +17,20 @@ TEST(IntSegm, SegmentsMeetingAtOneEnd) {
 }
 
 TEST(IntSegm, SkewSegmentsApartGiveZeroWithThePerpendicular) {
-    const double a1[3] = {0, 0, 0}, a2[3] = {4, 0, 0}, b1[3] = {2, -1, 1}, b2[3] = {2, 1, 1};
-    double out1[3], out2[3];
+    // Overlapping boxes, so the closest approach is measured: 0.2 apart.
+    const double a1[3] = {0, 0, 0}, a2[3] = {4, 0, 0}, b1[3] = {2, -1, 1}, b2[3] = {3, 1, -0.5};
+    double out1[3], out2[3], w[3];
     EXPECT_EQ(mathIntSegm(a1, a2, b1, b2, 1e-8, 1e-11, out1, out2), 0);
-    EXPECT_EQ(out1[0], 2.0);
-    EXPECT_EQ(out2[2], 1.0);
+    EXPECT_NEAR(mathDist(out1, out2), 0.2, 1e-12);
+    EXPECT_NEAR(out1[1], 0.0, 1e-12);
+    EXPECT_NEAR(out1[2], 0.0, 1e-12);
+    mathGetVec(out1, out2, w);
+    const double e2[3] = {1, 2, -1.5};
+    EXPECT_NEAR(mathOProduct(w, e2), 0.0, 1e-12);
+    EXPECT_NEAR(w[0], 0.0, 1e-12);
+    // Boxes apart: rejected before anything is measured.
+    const double c1[3] = {2, -1, 1}, c2[3] = {2, 1, 1};
+    EXPECT_EQ(mathIntSegm(a1, a2, c1, c2, 1e-8, 1e-11, out1, out2), 0);
 }
 
 TEST(IntSegm, CollinearOverlapIsOrderedAlongTheFirst) {
