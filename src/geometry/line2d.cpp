@@ -59,17 +59,6 @@ void foot2(const double *p, const double *o, const double *d, double *out) {
     out[1] = o[1] + k * d[1];
 }
 
-// Normalises v through the reciprocal; below tol it is left as it is.
-int normaliseOrKeep2(double *v, double tol) {
-    const double len = len2(v);
-    if (len < tol)
-        return 0;
-    const double r = 1.0 / len;
-    v[0] *= r;
-    v[1] *= r;
-    return 1;
-}
-
 int unitDir2(const double *a, const double *b, double tol, double *d) {
     sub2(b, a, d);
     return normaliseOrKeep2(d, tol);

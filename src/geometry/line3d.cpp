@@ -123,21 +123,14 @@ int mathIntLin(const double *o1, const double *d1, const double *o2, const doubl
                double tolDist, double tolPar, double *out1, double *out2) {
     double n[3];
     cross3(d1, d2, n);
-    const double len = len3(n);
-    if (len < tolPar) {
+    if (!normaliseOrKeep3(n, tolPar)) {
+        // Parallel: the feet of the mid-point of the two origins.
         double m[3];
-        add3(o1, o2, m);
-        m[0] *= 0.5;
-        m[1] *= 0.5;
-        m[2] *= 0.5;
+        mathMidPnt(o1, o2, m);
         footOnLine(m, o1, d1, out1);
         footOnLine(m, o2, d2, out2);
         return dist3(out1, out2) < tolDist ? 4 : 2;
     }
-    const double r = 1.0 / len;
-    n[0] *= r;
-    n[1] *= r;
-    n[2] *= r;
     double w[3], c[3];
     sub3(o1, o2, w);
 
@@ -167,14 +160,7 @@ namespace {
 // Unit b - a through the reciprocal; 0 when shorter than tol.
 int unitDir3(const double *a, const double *b, double tol, double *d) {
     sub3(b, a, d);
-    const double len = len3(d);
-    if (len < tol)
-        return 0;
-    const double r = 1.0 / len;
-    d[0] *= r;
-    d[1] *= r;
-    d[2] *= r;
-    return 1;
+    return normaliseOrKeep3(d, tol);
 }
 
 } // namespace
@@ -220,10 +206,7 @@ int mathIntLine(const double *a1, const double *b1, const double *a2, const doub
     }
     // Parallel: the feet use the raw directions, exact only for unit ones.
     double m[3];
-    add3(a1, a2, m);
-    m[0] *= 0.5;
-    m[1] *= 0.5;
-    m[2] *= 0.5;
+    mathMidPnt(a1, a2, m);
     footOnLine(m, a1, d1, out1);
     footOnLine(m, a2, d2, out2);
     *dist = dist3(out1, out2);

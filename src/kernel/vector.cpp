@@ -37,14 +37,8 @@ void mathGetVec2D(const double *p, const double *q, double *out) {
 
 int mathGetVecByPP2D(const double *p, const double *q, double tol, double *out) {
     sub2(q, p, out);
-    const double len = len2(out);
     // Unlike mathUniVec2D, a failure keeps the unnormalised difference.
-    if (len < tol)
-        return 0;
-    const double r = 1.0 / len;
-    out[0] *= r;
-    out[1] *= r;
-    return 1;
+    return normaliseOrKeep2(out, tol);
 }
 
 void mathRotVec2D(double angle, const double *v, double *out) {

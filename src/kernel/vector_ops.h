@@ -85,6 +85,27 @@ inline int unit3(double *v, double tol) {
     return 1;
 }
 
+// As unit2/unit3, but a vector shorter than tol is left as it is.
+inline int normaliseOrKeep2(double *v, double tol) {
+    const double len = len2(v);
+    if (len < tol)
+        return 0;
+    const double r = 1.0 / len;
+    v[0] *= r;
+    v[1] *= r;
+    return 1;
+}
+inline int normaliseOrKeep3(double *v, double tol) {
+    const double len = len3(v);
+    if (len < tol)
+        return 0;
+    const double r = 1.0 / len;
+    v[0] *= r;
+    v[1] *= r;
+    v[2] *= r;
+    return 1;
+}
+
 inline double acosGuarded(double x) {
     if (x > 0.999999999999)
         return 0.0;
