@@ -57,35 +57,8 @@ inline void cross3(const double *a, const double *b, double *out) {
 }
 
 // Normalisation: strict test, so a length equal to tol succeeds; the
-// reciprocal is formed once and multiplied in.
-inline int unit2(double *v, double tol) {
-    const double len = len2(v);
-    if (len < tol) {
-        v[0] = 0.0;
-        v[1] = 0.0;
-        return 0;
-    }
-    const double r = 1.0 / len;
-    v[0] *= r;
-    v[1] *= r;
-    return 1;
-}
-inline int unit3(double *v, double tol) {
-    const double len = len3(v);
-    if (len < tol) {
-        v[0] = 0.0;
-        v[1] = 0.0;
-        v[2] = 0.0;
-        return 0;
-    }
-    const double r = 1.0 / len;
-    v[0] *= r;
-    v[1] *= r;
-    v[2] *= r;
-    return 1;
-}
-
-// As unit2/unit3, but a vector shorter than tol is left as it is.
+// reciprocal is formed once and multiplied in. A vector shorter than tol is
+// left as it is.
 inline int normaliseOrKeep2(double *v, double tol) {
     const double len = len2(v);
     if (len < tol)
@@ -104,6 +77,23 @@ inline int normaliseOrKeep3(double *v, double tol) {
     v[1] *= r;
     v[2] *= r;
     return 1;
+}
+
+// The same, but a vector shorter than tol becomes zero.
+inline int unit2(double *v, double tol) {
+    if (normaliseOrKeep2(v, tol))
+        return 1;
+    v[0] = 0.0;
+    v[1] = 0.0;
+    return 0;
+}
+inline int unit3(double *v, double tol) {
+    if (normaliseOrKeep3(v, tol))
+        return 1;
+    v[0] = 0.0;
+    v[1] = 0.0;
+    v[2] = 0.0;
+    return 0;
 }
 
 inline double acosGuarded(double x) {
