@@ -8,30 +8,31 @@
 #include <random>
 #include <vector>
 
+#include "support/expect.h"
+
 namespace {
+
+using korvane_test::exactly;
 
 TEST(IntLin2D, CrossingLinesGiveTheirPoint) {
     const double o1[2] = {0, 0}, d1[2] = {1, 0}, o2[2] = {3, -2}, d2[2] = {0, 1};
     double out[2] = {9, 9};
     EXPECT_EQ(mathIntLin2D(o1, d1, o2, d2, 1e-8, 1e-11, out), 1);
-    EXPECT_EQ(out[0], 3.0);
-    EXPECT_EQ(out[1], 0.0);
+    EXPECT_TRUE(exactly(out, {3.0, 0.0}));
 }
 
 TEST(IntLin2D, ParallelLinesApartLeaveOutputUntouched) {
     const double o1[2] = {0, 0}, d[2] = {1, 0}, o2[2] = {5, 1};
     double out[2] = {9, 9};
     EXPECT_EQ(mathIntLin2D(o1, d, o2, d, 0.5, 1e-11, out), 2);
-    EXPECT_EQ(out[0], 9.0);
-    EXPECT_EQ(out[1], 9.0);
+    EXPECT_TRUE(exactly(out, {9.0, 9.0}));
 }
 
 TEST(IntLin2D, CoincidentLinesGiveTheMidPointOfTheFeet) {
     const double o1[2] = {0, 0}, d[2] = {1, 0}, o2[2] = {4, 0};
     double out[2];
     EXPECT_EQ(mathIntLin2D(o1, d, o2, d, 1e-8, 1e-11, out), 4);
-    EXPECT_EQ(out[0], 2.0);
-    EXPECT_EQ(out[1], 0.0);
+    EXPECT_TRUE(exactly(out, {2.0, 0.0}));
     EXPECT_EQ(mathIntLin2D(o1, d, o1, d, 1e-8, 1e-11, out), 4);
     EXPECT_EQ(out[0], 0.0);
 }
@@ -74,14 +75,11 @@ TEST(Lines2D, FeetAndNormals) {
     const double p[2] = {3, 2}, a[2] = {1, 1}, b[2] = {1, 4};
     double out[2];
     mathPrjPntLin2DEx(p, a, b, out);
-    EXPECT_EQ(out[0], 1.0);
-    EXPECT_EQ(out[1], 2.0);
+    EXPECT_TRUE(exactly(out, {1.0, 2.0}));
     mathPrjPntLin2DEx(p, a, a, out);
-    EXPECT_EQ(out[0], 1.0);
-    EXPECT_EQ(out[1], 1.0);
+    EXPECT_TRUE(exactly(out, {1.0, 1.0}));
     EXPECT_EQ(mathGetLinLeftDir2D(a, b, out), 1);
-    EXPECT_EQ(out[0], -1.0);
-    EXPECT_EQ(out[1], 0.0);
+    EXPECT_TRUE(exactly(out, {-1.0, 0.0}));
     EXPECT_EQ(mathGetLinRightDir2D(a, b, out), 1);
     EXPECT_EQ(out[0], 1.0);
     const double c[2] = {1 + 5e-11, 1};
@@ -99,8 +97,7 @@ TEST(Lines2D, DirLenWritesBothOutputsAlways) {
     const double b[2] = {5, 6};
     EXPECT_EQ(mathGetLinDirLen2D(a, b, 5.0, dir, &len), 1); // length equal to tol passes
     EXPECT_EQ(len, 5.0);
-    EXPECT_EQ(dir[0], 3.0 / 5.0);
-    EXPECT_EQ(dir[1], 4.0 / 5.0);
+    EXPECT_TRUE(exactly(dir, {3.0 / 5.0, 4.0 / 5.0}));
 }
 
 TEST(Lines2D, RevLinSwapsEndsAndIgnoresNull) {
@@ -150,10 +147,8 @@ TEST(PolylineOfLin2ds, MiddleLastFirstComesBackAsOneRun) {
     EXPECT_EQ(middle->next, first);
     EXPECT_EQ(first->next, nullptr);
     EXPECT_EQ(last->start[0], 2.0);
-    EXPECT_EQ(last->end[0], middle->start[0]);
-    EXPECT_EQ(last->end[1], middle->start[1]);
-    EXPECT_EQ(middle->end[0], first->start[0]);
-    EXPECT_EQ(middle->end[1], first->start[1]);
+    EXPECT_TRUE(korvane_test::same(last->end, middle->start, 2));
+    EXPECT_TRUE(korvane_test::same(middle->end, first->start, 2));
     EXPECT_EQ(first->end[0], 0.0);
     mathFreSDChns(result);
 }
@@ -197,8 +192,7 @@ TEST(PolylineOfLin2ds, ShuffledReversedPiecesRejoin) {
         int count = 0;
         for (Lin2D *l = result; l; l = l->next, ++count) {
             if (l->next) {
-                EXPECT_EQ(l->end[0], l->next->start[0]);
-                EXPECT_EQ(l->end[1], l->next->start[1]);
+                EXPECT_TRUE(korvane_test::same(l->end, l->next->start, 2));
             }
         }
         EXPECT_EQ(count, n);

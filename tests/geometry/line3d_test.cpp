@@ -6,7 +6,12 @@
 #include <cmath>
 #include <random>
 
+#include "support/expect.h"
+
 namespace {
+
+using korvane_test::exactly;
+using korvane_test::same;
 
 void randomUnit(std::mt19937 &rng, double *v) {
     std::uniform_real_distribution<double> u(-1, 1);
@@ -21,20 +26,16 @@ TEST(IntLin, LinesThroughOnePointMeetThere) {
     const double o[3] = {1, 2, 3}, x[3] = {1, 0, 0}, y[3] = {0, 1, 0};
     double out1[3], out2[3];
     EXPECT_EQ(mathIntLin(o, x, o, y, 1e-8, 1e-11, out1, out2), 1);
-    for (int i = 0; i < 3; ++i) {
-        EXPECT_EQ(out1[i], o[i]);
-        EXPECT_EQ(out2[i], o[i]);
-    }
+    EXPECT_TRUE(same(out1, o, 3));
+    EXPECT_TRUE(same(out2, o, 3));
 }
 
 TEST(IntLin, ParallelLinesApartStillWriteBothOutputs) {
     const double o1[3] = {0, 0, 0}, o2[3] = {4, 1, 0}, x[3] = {1, 0, 0};
     double out1[3] = {9, 9, 9}, out2[3] = {9, 9, 9};
     EXPECT_EQ(mathIntLin(o1, x, o2, x, 0.1, 1e-11, out1, out2), 2);
-    EXPECT_EQ(out1[0], 2.0);
-    EXPECT_EQ(out1[1], 0.0);
-    EXPECT_EQ(out2[0], 2.0);
-    EXPECT_EQ(out2[1], 1.0);
+    EXPECT_TRUE(exactly(out1, {2.0, 0.0}));
+    EXPECT_TRUE(exactly(out2, {2.0, 1.0}));
     EXPECT_EQ(mathIntLin(o1, x, o2, x, 1.5, 1e-11, out1, out2), 4);
 }
 
@@ -62,10 +63,8 @@ TEST(IntLin, CrossingInProjectionAtDistanceOneIsSkew) {
     const double o1[3] = {0, 0, 0}, x[3] = {1, 0, 0}, o2[3] = {2, 0, 1}, y[3] = {0, 1, 0};
     double out1[3], out2[3];
     EXPECT_EQ(mathIntLin(o1, x, o2, y, 1e-8, 1e-11, out1, out2), 5);
-    EXPECT_EQ(out1[0], 2.0);
-    EXPECT_EQ(out1[2], 0.0);
-    EXPECT_EQ(out2[0], 2.0);
-    EXPECT_EQ(out2[2], 1.0);
+    EXPECT_TRUE(exactly(out1, {2, 0, 0}));
+    EXPECT_TRUE(exactly(out2, {2, 0, 1}));
     const double a2[3] = {2, -1, 1}, b2[3] = {2, 3, 1};
     const double b1[3] = {5, 0, 0};
     EXPECT_EQ(mathIntLinEx(o1, b1, a2, b2, 1e-8, 1e-11, out1, out2), 5);

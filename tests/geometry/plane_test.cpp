@@ -5,7 +5,11 @@
 #include <cmath>
 #include <random>
 
+#include "support/expect.h"
+
 namespace {
+
+using korvane_test::exactly;
 
 const double kOrigin[3] = {0, 0, 0};
 const double kZ[3] = {0, 0, 1};
@@ -14,12 +18,12 @@ TEST(IntSegmPln, EndsOnThePlaneAreReportedThroughTheFirstOutput) {
     const double a[3] = {1, 2, 0}, b[3] = {5, 5, 9};
     double out1[3] = {9, 9, 9}, out2[3] = {8, 8, 8}, t1 = 9, t2 = 9;
     EXPECT_EQ(mathIntSegmPln(a, b, kOrigin, kZ, 1e-8, out1, out2, &t1, &t2), 1);
-    EXPECT_EQ(out1[0], 1.0);
+    EXPECT_TRUE(exactly(out1, {1, 2, 0}));
     EXPECT_EQ(t1, 0.0);
     EXPECT_EQ(mathIntSegmPln(b, a, kOrigin, kZ, 1e-8, out1, out2, &t1, &t2), 1);
-    EXPECT_EQ(out1[0], 1.0);
+    EXPECT_TRUE(exactly(out1, {1, 2, 0}));
     EXPECT_EQ(t1, 1.0);
-    EXPECT_EQ(out2[0], 8.0);
+    EXPECT_TRUE(exactly(out2, {8, 8, 8}));
     EXPECT_EQ(t2, 9.0);
 }
 
@@ -28,8 +32,7 @@ TEST(IntSegmPln, CrossingParameterFromTheSignedHeights) {
     double out1[3], out2[3], t1, t2 = 9;
     EXPECT_EQ(mathIntSegmPln(a, b, kOrigin, kZ, 1e-8, out1, out2, &t1, &t2), 1);
     EXPECT_EQ(t1, 0.25);
-    EXPECT_EQ(out1[0], 1.0);
-    EXPECT_EQ(out1[2], 0.0);
+    EXPECT_TRUE(exactly(out1, {1, 0, 0}));
     EXPECT_EQ(t2, 9.0);
 }
 
@@ -54,13 +57,11 @@ TEST(IntLinPln, ParallelLineWritesItsOriginEvenWhenApart) {
     const double o[3] = {1, 2, 3}, d[3] = {1, 0, 0};
     double out[3] = {9, 9, 9};
     EXPECT_EQ(mathIntLinPln(o, d, kOrigin, kZ, 1e-8, 1e-11, out), 2);
-    EXPECT_EQ(out[2], 3.0);
-    const double on[3] = {1, 2, 0};
+    EXPECT_TRUE(exactly(out, {1, 2, 3}));
+    const double on[3] = {1, 2, 0}, down[3] = {0, 0, -2};
     EXPECT_EQ(mathIntLinPln(on, d, kOrigin, kZ, 1e-8, 1e-11, out), 4);
-    const double down[3] = {0, 0, -2};
     EXPECT_EQ(mathIntLinPln(o, down, kOrigin, kZ, 1e-8, 1e-11, out), 1);
-    EXPECT_EQ(out[0], 1.0);
-    EXPECT_EQ(out[2], 0.0);
+    EXPECT_TRUE(exactly(out, {1, 2, 0}));
 }
 
 TEST(Planes, ProjectionLiesOnThePlane) {
@@ -102,12 +103,8 @@ TEST(IntPln, ZAndXNormalsGiveTheYAxis) {
     const double p1[3] = {0, 0, 2}, p2[3] = {3, 0, 0}, x[3] = {1, 0, 0};
     double out[3], dir[3];
     EXPECT_EQ(mathIntPln(p1, kZ, p2, x, 1e-8, 1e-11, out, dir), 1);
-    EXPECT_EQ(dir[0], 0.0);
-    EXPECT_EQ(dir[1], 1.0);
-    EXPECT_EQ(dir[2], 0.0);
-    EXPECT_EQ(out[0], 3.0);
-    EXPECT_EQ(out[1], 0.0);
-    EXPECT_EQ(out[2], 2.0);
+    EXPECT_TRUE(exactly(dir, {0, 1, 0}));
+    EXPECT_TRUE(exactly(out, {3, 0, 2}));
 }
 
 TEST(IntPln, RandomPlanesMeetOnACommonLine) {
@@ -142,14 +139,10 @@ TEST(Int3Pln, Always801AndSingularLeavesOutAlone) {
     const double p1[3] = {1, 0, 0}, p2[3] = {0, 2, 0}, p3[3] = {0, 0, 3};
     double out[3] = {9, 9, 9};
     EXPECT_EQ(mathInt3Pln(p1, x, p2, y, p3, kZ, 1e-8, out), 801);
-    EXPECT_EQ(out[0], 1.0);
-    EXPECT_EQ(out[1], 2.0);
-    EXPECT_EQ(out[2], 3.0);
+    EXPECT_TRUE(exactly(out, {1, 2, 3}));
     double keep[3] = {9, 9, 9};
     EXPECT_EQ(mathInt3Pln(p1, kZ, p2, kZ, p3, kZ, 1e-8, keep), 801);
-    EXPECT_EQ(keep[0], 9.0);
-    EXPECT_EQ(keep[1], 9.0);
-    EXPECT_EQ(keep[2], 9.0);
+    EXPECT_TRUE(exactly(keep, {9, 9, 9}));
 }
 
 } // namespace
