@@ -26,7 +26,7 @@ TEST(Points, CopiesDistancesAndFreeMixes) {
     EXPECT_EQ(mathDistXD(6, x, y), std::sqrt(6.0));
     EXPECT_EQ(mathDistXD(0, x, y), 0.0);
     double out[3];
-    mathMixPnt(p, b, 2.0, 3.0, out);  // the weights need not sum to 1
+    mathMixPnt(p, b, 2.0, 3.0, out); // the weights need not sum to 1
     EXPECT_TRUE(exactly(out, {8, 13, 24}));
     const double g[4] = {0, 0, 0, 2};
     double o4[4];
@@ -78,7 +78,7 @@ TEST(RotAndMirPnt, InvariantsAndAliasing) {
         mathRotPnt(axis, pnt, angle, p, out);
         mathPrjPntLin(p, pnt, axis, f0);
         mathPrjPntLin(out, pnt, axis, f1);
-        EXPECT_NEAR(mathDist(p, f0), mathDist(out, f1), 1e-12);  // distance to the axis kept
+        EXPECT_NEAR(mathDist(p, f0), mathDist(out, f1), 1e-12); // distance to the axis kept
         EXPECT_NEAR(mathDist(f0, f1), 0.0, 1e-12);
         mathRotPnt(axis, pnt, -angle, out, back);
         EXPECT_TRUE(near(back, {p[0], p[1], p[2]}, 1e-12));
@@ -91,7 +91,7 @@ TEST(RotAndMirPnt, InvariantsAndAliasing) {
         EXPECT_TRUE(near(twice, {p[0], p[1], p[2]}, 1e-12));
         mathMidPnt(p, once, mid);
         mathGetVec(pnt, mid, e);
-        EXPECT_NEAR(mathOProduct(e, axis), 0.0, 1e-12);  // the mid-point lies on the plane
+        EXPECT_NEAR(mathOProduct(e, axis), 0.0, 1e-12); // the mid-point lies on the plane
         mathMirPnt(pnt, axis, m, m);
         EXPECT_TRUE(same(m, once, 3));
     }
@@ -102,12 +102,12 @@ TEST(Homogeneous, DivisionByTheWeight) {
     double out[3] = {9, 9, 9}, keep[3] = {7, 7, 7};
     EXPECT_EQ(mathGetPnt4(h, out), 1);
     EXPECT_TRUE(exactly(out, {-1, -2, -3}));
-    EXPECT_EQ(mathDist3H(g, h), 0.0);  // a negative weight counts as too small here
+    EXPECT_EQ(mathDist3H(g, h), 0.0); // a negative weight counts as too small here
     EXPECT_EQ(mathGetPnt4(inf, keep), 0);
     EXPECT_TRUE(exactly(keep, {7, 7, 7}));
     const double h3[3] = {3, 6, 1e-10};
     double o2[2];
-    EXPECT_EQ(mathGetPnt3(h3, o2), 1);  // a weight equal to 1e-10 divides
+    EXPECT_EQ(mathGetPnt3(h3, o2), 1); // a weight equal to 1e-10 divides
     EXPECT_EQ(o2[0], 3 / 1e-10);
     const double a[4] = {2, 0, 0, 2}, b[4] = {0, 6, 0, 3};
     EXPECT_EQ(mathDist3H(a, b), std::sqrt(5.0));
@@ -148,12 +148,12 @@ TEST(Homogeneous, RotateAndMirrorAgreeWithThePlainForms) {
 TEST(ChkPntLin2D, SidesAndTheZeroToleranceQuirk) {
     const double a[2] = {0, 0}, b[2] = {2, 0}, c[2] = {1e-10, 0};
     const double on[2] = {1, 0}, left[2] = {1, 1}, right[2] = {1, -1};
-    EXPECT_EQ(mathChkPntLin2D(on, a, b, 0.0), 4);  // |s| < 0 and s > 0 are both false
+    EXPECT_EQ(mathChkPntLin2D(on, a, b, 0.0), 4); // |s| < 0 and s > 0 are both false
     EXPECT_EQ(mathChkPntLin2D(on, a, b, 1e-10), 2);
     EXPECT_EQ(mathChkPntLin2D(right, a, b, 1e-10), 4);
-    EXPECT_EQ(mathChkPntLin2D(left, a, b, 1.0), 3);  // strict: distance 1 is not on
+    EXPECT_EQ(mathChkPntLin2D(left, a, b, 1.0), 3); // strict: distance 1 is not on
     EXPECT_EQ(mathChkPntLin2D(left, a, a, 1e-10), 800);
-    EXPECT_EQ(mathChkPntLin2D(left, a, c, 1e-10), 3);  // a length of exactly 1e-10 is a line
+    EXPECT_EQ(mathChkPntLin2D(left, a, c, 1e-10), 3); // a length of exactly 1e-10 is a line
 }
 
 } // namespace

@@ -89,7 +89,7 @@ TEST(Angles, UndefinedBelowToleranceIsMinusOne) {
     const double a[3] = {1, 0, 0}, zero[3] = {0, 0, 0}, d[3] = {-2, 0, 0};
     EXPECT_EQ(mathGetAngle(a, zero, 1e-10), -1.0);
     EXPECT_EQ(mathGetAngle(zero, a, 1e-10), -1.0);
-    EXPECT_EQ(mathGetAngle(a, d, 1e-10), kPi);  // a cosine of -1 hits the guard exactly
+    EXPECT_EQ(mathGetAngle(a, d, 1e-10), kPi); // a cosine of -1 hits the guard exactly
     const double c[2] = {0, 0}, q[2] = {1, 0};
     EXPECT_EQ(mathGetACWAngle3P2D(c, c, q), -1.0);
 }
@@ -174,7 +174,7 @@ TEST(MinComSub, StrictScanKeepsTheLowestIndex) {
 TEST(GetXYFromZ, CompletesARightHandedFrame) {
     const double z[3] = {0, 0, 1};
     double x[3], y[3];
-    EXPECT_EQ(mathGetXYFromZ(z, x, y), 1);  // ties take k = 0
+    EXPECT_EQ(mathGetXYFromZ(z, x, y), 1); // ties take k = 0
     EXPECT_TRUE(exactly(x, {0, 1, 0}));
     EXPECT_TRUE(exactly(y, {-1, 0, 0}));
 
@@ -184,7 +184,7 @@ TEST(GetXYFromZ, CompletesARightHandedFrame) {
         const double w[3] = {u(rng), u(rng), u(rng)};
         ASSERT_EQ(mathGetXYFromZ(w, x, y), 1);
         EXPECT_NEAR(mathVecLen(x), 1.0, 1e-15);
-        EXPECT_NEAR(mathVecLen(y), mathVecLen(w), 1e-13);  // y keeps the length of z
+        EXPECT_NEAR(mathVecLen(y), mathVecLen(w), 1e-13); // y keeps the length of z
         EXPECT_NEAR(mathOProduct(x, w), 0.0, 1e-13);
         EXPECT_NEAR(mathOProduct(x, y), 0.0, 1e-13);
         EXPECT_GT(mathMProduct(x, y, w), 0.0);

@@ -26,9 +26,8 @@ inline ::testing::AssertionResult near(const double *v, std::initializer_list<do
     int i = 0;
     for (double w : want) {
         if (!(v[i] - w <= tol && w - v[i] <= tol))
-            return ::testing::AssertionFailure()
-                   << "component " << i << " is " << v[i] << ", expected " << w << " within "
-                   << tol;
+            return ::testing::AssertionFailure() << "component " << i << " is " << v[i]
+                                                 << ", expected " << w << " within " << tol;
         ++i;
     }
     return ::testing::AssertionSuccess();
