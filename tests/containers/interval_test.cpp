@@ -4,145 +4,107 @@
 
 #include <cmath>
 #include <random>
+#include <vector>
 
-namespace {
+// Each helper below gives the answer of a call followed by every output it
+// may write, so one comparison pins the written and the untouched outputs (a
+// braced list is evaluated in order, the call first).
+using V = std::vector<double>;
 
 const double kTwoPi = 6.283185307179586;
 
-TEST(RangeTests, StrictBoundsAndEitherOrder) {
+TEST(Membership, StrictBoundsEitherOrderAndWholeTurns) {
     EXPECT_EQ(mathChkValInt(3, 1, 0.1, 2), 1);
-    EXPECT_EQ(mathChkValInt(1, 3, 0.0, 3), 0);
     EXPECT_EQ(mathChkValInt(1, 3, 0.5, 3.5), 0);
     EXPECT_EQ(mathChkIntInt(0, 1, 1.5, 2, 0.5), 1); // a gap equal to tol
     EXPECT_EQ(mathChkIntInt(1.5, 2, 0, 1, 0.25), 0);
+    EXPECT_EQ(mathIsInPeri(0, 1.9, 2, 5.95, 0.1), 1); // covers a whole turn
+    EXPECT_EQ(mathIsInPeri(0, 1, 0, 1.5, 0.5), 0);    // not periodic, strict
+    const Interval back = {3, 1}, j = {1, 3};
+    EXPECT_EQ(intervalIsIn(&j, 1.0, 0.0), 0);
+    EXPECT_EQ(intervalIsIn(&j, 1.0, 1e-12), 1);
+    EXPECT_EQ(intervalIsIn(&back, 2.0, 0.0), 0); // order matters here
+    EXPECT_EQ(intervalGetLen(&back), 2.0);
+    EXPECT_EQ(intervalGetLen(nullptr), 0.0);
 }
 
-TEST(IntInt, TouchingRangesMeetInOnePoint) {
-    double s = 0, e = 0;
-    EXPECT_EQ(mathIntInt(2, 1, 2, 3, 1e-10, &s, &e), 1);
-    EXPECT_EQ(s, 2.0);
-    EXPECT_EQ(e, 2.0);
+static V intInt(double a0, double a1, double b0, double b1, double tol) {
+    double r[2];
+    return V{double(mathIntInt(a0, a1, b0, b1, tol, r, r + 1)), r[0], r[1]};
 }
 
-TEST(IntInt, DisjointRangesGiveTheMeanOfTheGapTwice) {
-    double s = 0, e = 0;
-    EXPECT_EQ(mathIntInt(0, 1, 1.001, 2, 1e-10, &s, &e), 0);
-    EXPECT_EQ(s, (1.001 + 1.0) * 0.5);
-    EXPECT_EQ(e, s);
-    // A gap below tol counts as a meeting and leaves the ends inverted.
-    EXPECT_EQ(mathIntInt(0, 1, 1.25, 2, 0.5, &s, &e), 1);
-    EXPECT_EQ(s, 1.25);
-    EXPECT_EQ(e, 1.0);
+TEST(IntInt, MeetsWithinTolAndOtherwiseGivesTheMeanOfTheGapTwice) {
+    EXPECT_EQ(intInt(2, 1, 2, 3, 1e-10), (V{1, 2, 2}));            // touching, either order
+    EXPECT_EQ(intInt(0, 1, 1.25, 2, 0.125), (V{0, 1.125, 1.125})); // else the mean of the gap
+    EXPECT_EQ(intInt(0, 1, 1.25, 2, 0.5), (V{1, 1.25, 1.0}));      // a gap below tol: ends inverted
+}
+
+static V arc(double a0, double a1, double b0, double b1, double tol) {
+    int n = -1;
+    double out[4];
+    V v{double(mathIntIntArc(a0, a1, b0, b1, tol, &n, out)), double(n)};
+    v.insert(v.end(), out, out + 2 * n);
+    return v;
 }
 
 TEST(IntIntArc, AFullArcYieldsTheOtherAndAWrappingArcMeetsTwice) {
-    int n = -1;
-    double out[4];
-    EXPECT_EQ(mathIntIntArc(0, kTwoPi, 1, 2, 1e-6, &n, out), 1);
-    EXPECT_EQ(n, 1);
-    EXPECT_EQ(out[1], 2.0);
+    EXPECT_EQ(arc(0, kTwoPi, 1, 2, 1e-6), (V{1, 1, 1, 2}));
     // b runs from 6 past the turn to 7; a covers 0.25..6.1.
-    EXPECT_EQ(mathIntIntArc(0.25, 6.1, 6.0, 7.0, 1e-10, &n, out), 1);
-    EXPECT_EQ(n, 2);
-    EXPECT_EQ(out[0], 6.0);
-    EXPECT_EQ(out[1], 6.1);
-    EXPECT_EQ(out[2], 0.25);
-    EXPECT_EQ(out[3], 7.0 - kTwoPi);
+    EXPECT_EQ(arc(0.25, 6.1, 6.0, 7.0, 1e-10), (V{1, 2, 6.0, 6.1, 0.25, 7.0 - kTwoPi}));
     // Only the unrolled tail meets: it lands in the first pair.
-    EXPECT_EQ(mathIntIntArc(0.1, 0.5, 6.0, 7.0, 1e-10, &n, out), 1);
-    EXPECT_EQ(n, 1);
-    EXPECT_EQ(out[0], 0.1);
-    EXPECT_EQ(mathIntIntArc(1.0, 2.0, 3.0, 4.0, 1e-10, &n, out), 0);
-    EXPECT_EQ(n, 0);
+    EXPECT_EQ(arc(0.1, 0.5, 6.0, 7.0, 1e-10), (V{1, 1, 0.1, 0.5}));
+    EXPECT_EQ(arc(1.0, 2.0, 3.0, 4.0, 1e-10), (V{0, 0}));
 }
 
-TEST(IntAri, MultiplyTakesTheExtremeProducts) {
-    std::mt19937 rng(3);
-    std::uniform_real_distribution<double> u(-4, 4);
-    for (int k = 0; k < 100; ++k) {
-        const double a0 = u(rng), a1 = a0 + 2, b0 = u(rng), b1 = b0 + 1;
-        const double p[4] = {a0 * b0, a0 * b1, a1 * b0, a1 * b1};
-        double s, e;
-        ASSERT_EQ(mathIntAri(2, a0, a1, b0, b1, &s, &e), 1);
-        EXPECT_EQ(s, std::fmin(std::fmin(p[0], p[1]), std::fmin(p[2], p[3])));
-        EXPECT_EQ(e, std::fmax(std::fmax(p[0], p[1]), std::fmax(p[2], p[3])));
-    }
-    double s, e;
-    EXPECT_EQ(mathIntAri(1, 1, 2, 10, 20, &s, &e), 1);
-    EXPECT_EQ(s, -19.0);
-    EXPECT_EQ(e, -8.0);
+static V ari(int op, double a0, double a1, double b0, double b1) {
+    double r[2] = {7, 7};
+    return V{double(mathIntAri(op, a0, a1, b0, b1, r, r + 1)), r[0], r[1]};
 }
 
-TEST(IntAri, DivisionNeedsAPositiveDivisorAndKeepsTheFormula) {
-    double s = 7, e = 7;
-    EXPECT_EQ(mathIntAri(3, 1, 2, 0, 4, &s, &e), 0);
-    EXPECT_EQ(mathIntAri(3, 1, 2, -1, 4, &s, &e), 0);
-    EXPECT_EQ(mathIntAri(4, 1, 2, 1, 4, &s, &e), 0);
-    EXPECT_EQ(s, 7.0);
-    EXPECT_EQ(mathIntAri(3, -4, 2, 1e-20, 4, &s, &e), 1);
-    EXPECT_EQ(s, -1.0);
-    EXPECT_EQ(e, 2.0 / 1e-20);
+TEST(IntAri, EachOperationAndTheRefusedDivisions) {
+    EXPECT_EQ(ari(0, 1, 2, 10, 20), (V{1, 11, 22}));
+    EXPECT_EQ(ari(1, 1, 2, 10, 20), (V{1, -19, -8}));
+    EXPECT_EQ(ari(2, -2, 3, -5, 4), (V{1, -15, 12}));          // the extreme products
+    EXPECT_EQ(ari(3, -4, 2, 1e-20, 4), (V{1, -1, 2 / 1e-20})); // a0 / b1, a1 / b0
+    EXPECT_EQ(ari(3, 1, 2, 0, 4), (V{0, 7, 7}));               // the divisor must be positive
+}
+
+static V dec(double lo, double hi, double a, double b) {
+    int k = -1, n = -1;
+    double f[2] = {9, 9}, s[2] = {9, 9};
+    const double ok = mathDecPeriInt(lo, hi, a, b, &k, &n, f, s);
+    return V{ok, double(k), double(n), f[0], f[1], s[0], s[1]};
 }
 
 TEST(DecPeriInt, SplitsWholePeriodsAndARemainder) {
-    int k = -1, n = -1;
-    double first[2], second[2] = {9, 9};
-    EXPECT_EQ(mathDecPeriInt(0, 1, 2.75, 0.5, &k, &n, first, second), 1);
-    EXPECT_EQ(k, 2);
-    EXPECT_EQ(n, 1);
-    EXPECT_EQ(first[0], 0.5);
-    EXPECT_EQ(first[1], 0.75);
-    EXPECT_EQ(second[0], 9.0);
-    EXPECT_EQ(mathDecPeriInt(0, 1, 0.5, 1.25, &k, &n, first, second), 1);
-    EXPECT_EQ(k, 0);
-    EXPECT_EQ(n, 2);
-    EXPECT_EQ(first[1], 1.0);
-    EXPECT_EQ(second[0], 0.0);
-    EXPECT_EQ(second[1], 0.25);
-    EXPECT_EQ(mathDecPeriInt(0, 1, 0.0, 2.0, &k, &n, first, second), 1);
-    EXPECT_EQ(n, 0); // no remainder
-    k = n = -1;
-    EXPECT_EQ(mathDecPeriInt(1, 1 + 1e-11, 0, 5, &k, &n, first, second), 0);
-    EXPECT_EQ(k, -1);
-}
-
-TEST(IsInPeri, ShiftsByWholePeriods) {
-    EXPECT_EQ(mathIsInPeri(0, 1, 2, 4.5, 1e-10), 1);
-    EXPECT_EQ(mathIsInPeri(0, 1, 2, 5.5, 1e-10), 0);
-    EXPECT_EQ(mathIsInPeri(0, 1.9, 2, 5.95, 0.1), 1); // covers a whole turn
-    EXPECT_EQ(mathIsInPeri(0, 1, 0, 1.5, 0.5), 0);    // not periodic, strict
+    EXPECT_EQ(dec(0, 1, 2.75, 0.5), (V{1, 2, 1, 0.5, 0.75, 9, 9}));
+    EXPECT_EQ(dec(0, 1, 0.5, 1.25), (V{1, 0, 2, 0.5, 1, 0, 0.25}));
+    EXPECT_EQ(dec(0, 1, 0.0, 2.0), (V{1, 2, 0, 0, 0, 9, 9})); // no remainder
+    EXPECT_EQ(dec(1, 1 + 1e-11, 0, 5), (V{0, -1, -1, 9, 9, 9, 9}));
 }
 
 TEST(IsInPeri, AgreesWithAnExplicitShiftSearchAwayFromTheEnds) {
     std::mt19937 rng(5);
     std::uniform_real_distribution<double> u(-10, 10), len(0, 3), per(0.5, 4);
-    int checked = 0;
     for (int t = 0; t < 2000; ++t) {
-        const Interval iv = {u(rng), 0};
-        const double b = iv.start + len(rng), p = per(rng), v = u(rng) * 3;
+        const double a = u(rng), b = a + len(rng), p = per(rng), v = u(rng) * 3;
         bool in = false, nearEnd = false;
         for (int k = -100; k <= 100; ++k) {
             const double w = v + k * p;
-            in = in || (iv.start <= w && w <= b);
-            nearEnd = nearEnd || std::fabs(w - iv.start) < 1e-6 || std::fabs(w - b) < 1e-6;
+            in = in || (a <= w && w <= b);
+            nearEnd = nearEnd || std::fabs(w - a) < 1e-6 || std::fabs(w - b) < 1e-6;
         }
-        if (nearEnd || p < b - iv.start)
+        if (nearEnd || p < b - a)
             continue;
-        ++checked;
-        Interval j = iv;
-        j.end = b;
-        EXPECT_EQ(mathIsInPeri(j.start, b, p, v, 1e-9), in ? 1 : 0);
-        EXPECT_EQ(intervalIsInPeri(&j, p, v, 1e-9), in ? 1 : 0);
+        const Interval iv = {a, b};
         double rep = 0;
-        EXPECT_EQ(intervalIsInPeEx(&j, p, v, 1e-9, &rep), in ? 1 : 0);
-        if (in) {
-            EXPECT_TRUE(rep >= j.start - 1e-9 && rep <= b + 1e-9);
-            EXPECT_NEAR(std::remainder(rep - v, p), 0.0, 1e-9);
-        } else {
-            EXPECT_EQ(rep, v);
-        }
+        EXPECT_EQ(mathIsInPeri(a, b, p, v, 1e-9), in ? 1 : 0);
+        EXPECT_EQ(intervalIsInPeri(&iv, p, v, 1e-9), in ? 1 : 0);
+        EXPECT_EQ(intervalIsInPeEx(&iv, p, v, 1e-9, &rep), in ? 1 : 0);
+        // The representative lies in the range, whole periods away from v.
+        EXPECT_TRUE(in ? rep >= a - 1e-9 && rep <= b + 1e-9 : rep == v);
+        EXPECT_NEAR(std::remainder(rep - v, p), 0.0, 1e-9);
     }
-    EXPECT_GT(checked, 1000);
 }
 
 TEST(IntervalRecord, CreateWritesOnlyTheFirstEndFromTheSecondArgument) {
@@ -154,52 +116,20 @@ TEST(IntervalRecord, CreateWritesOnlyTheFirstEndFromTheSecondArgument) {
     EXPECT_EQ(pnodeFree(new Interval{0, 1}), 1);
 }
 
-TEST(IntervalRecord, LengthAndStrictMembership) {
-    const Interval iv = {3, 1}, j = {1, 3};
-    EXPECT_EQ(intervalGetLen(&iv), 2.0);
-    EXPECT_EQ(intervalGetLen(nullptr), 0.0);
-    EXPECT_EQ(intervalIsIn(&j, 1.0, 0.0), 0);
-    EXPECT_EQ(intervalIsIn(&j, 1.0, 1e-12), 1);
-    EXPECT_EQ(intervalIsIn(&iv, 2.0, 0.0), 0); // order matters here
-}
-
-TEST(IntervalInt, MeanOnFailureAndANullOutputIsAllowed) {
-    const double a[2] = {4, 1}, b[2] = {5, 6};
-    double out[2] = {0, 0};
-    EXPECT_EQ(intervalInt(a, b, 1e-10, out), 0);
-    EXPECT_EQ(out[0], 4.5);
-    EXPECT_EQ(out[1], 4.5);
-    EXPECT_EQ(intervalInt(a, a, 1e-10, nullptr), 1);
+static V peri(V a, V b, double period) {
+    int n = -1;
+    double o1[2] = {9, 9}, o2[2] = {9, 9};
+    const double ok = intervalIntPeri(a.data(), b.data(), period, 1e-10, &n, o1, o2);
+    return V{ok, double(n), o1[0], o1[1], o2[0], o2[1]};
 }
 
 TEST(IntervalIntPeri, FindsTheOverlapThroughTheAddedPeriod) {
-    const double a[2] = {5, 7}, b[2] = {0, 1};
-    int n = -1;
-    double o1[2], o2[2] = {9, 9};
-    EXPECT_EQ(intervalIntPeri(a, b, kTwoPi, 1e-10, &n, o1, o2), 1);
-    EXPECT_EQ(n, 1);
-    EXPECT_EQ(o1[0], kTwoPi);
-    EXPECT_EQ(o1[1], 7.0);
-    EXPECT_EQ(o2[0], 9.0);
-    // Both sides of the turn: b and b plus one period each meet a.
-    const double c[2] = {0.5, 6.5};
-    EXPECT_EQ(intervalIntPeri(c, b, kTwoPi, 1e-10, &n, o1, o2), 1);
-    EXPECT_EQ(n, 2);
-    EXPECT_EQ(o1[0], 0.5);
-    EXPECT_EQ(o1[1], 1.0);
-    EXPECT_EQ(o2[0], kTwoPi);
-    EXPECT_EQ(o2[1], 6.5);
+    EXPECT_EQ(peri({5, 7}, {0, 1}, kTwoPi), (V{1, 1, kTwoPi, 7, 9, 9}));
+    // Both sides of the turn: b and b plus one period each meet.
+    EXPECT_EQ(peri({0.5, 6.5}, {0, 1}, kTwoPi), (V{1, 2, 0.5, 1, kTwoPi, 6.5}));
+    EXPECT_EQ(peri({1, 2}, {0, 7}, kTwoPi), (V{1, 1, 1, 2, 9, 9})); // covered: a itself
+    // Not periodic: the plain common part, here the mean of the gap twice.
+    EXPECT_EQ(peri({2, 1}, {3, 4}, 0.0), (V{0, 0, 2.5, 2.5, 9, 9}));
+    const double a[2] = {4, 1};
+    EXPECT_EQ(intervalInt(a, a, 1e-10, nullptr), 1); // no output wanted
 }
-
-TEST(IntervalIntPeri, CoveringAndNonPeriodicCases) {
-    const double whole[2] = {0, 7}, b[2] = {1, 2}, c[2] = {3, 4};
-    int n = 0;
-    double o1[2];
-    EXPECT_EQ(intervalIntPeri(b, whole, kTwoPi, 1e-10, &n, o1, nullptr), 1);
-    EXPECT_EQ(n, 1);
-    EXPECT_EQ(o1[0], 1.0);
-    EXPECT_EQ(intervalIntPeri(b, c, 0.0, 1e-10, &n, o1, nullptr), 0);
-    EXPECT_EQ(n, 0);
-}
-
-} // namespace
