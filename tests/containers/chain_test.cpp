@@ -5,6 +5,8 @@
 #include <type_traits>
 #include <vector>
 
+namespace {
+
 struct BNode {
     BNode *prev, *next;
     int id;
@@ -15,6 +17,8 @@ struct SNode {
     SNode *next;
     int id;
 };
+
+} // namespace
 
 using Ids = std::vector<int>;
 
