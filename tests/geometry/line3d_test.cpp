@@ -71,35 +71,19 @@ TEST(IntLin, CrossingInProjectionAtDistanceOneIsSkew) {
     EXPECT_EQ(mathIntLinEx(o1, o1, a2, b2, 1e-8, 1e-11, out1, out2), 800);
 }
 
-TEST(IntLine, RawDirectionsGiveParametersInSegmentScale) {
+TEST(IntLine, RawDirectionsAndWhatEachClassWrites) {
     const double a1[3] = {0, 0, 0}, b1[3] = {4, 0, 0}, a2[3] = {1, -2, 0}, b2[3] = {1, 2, 0};
-    double out1[3], out2[3], t1 = 9, t2 = 9, dist = 9;
+    const double c2[3] = {1, -2, 3}, e2[3] = {1, 2, 3}, p2[3] = {0, 1, 0}, q2[3] = {4, 1, 0};
+    double out1[3] = {9, 9, 9}, out2[3] = {9, 9, 9}, t1 = 9, t2 = 9, dist = 9;
+    EXPECT_EQ(mathIntLine(a1, a1, a2, b2, 1e-8, 1e-11, out1, out2, &t1, &t2, &dist), 800);
+    EXPECT_TRUE(exactly(out1, {9, 9, 9}) && exactly(out2, {9, 9, 9}) && t1 == 9 && dist == 9);
     EXPECT_EQ(mathIntLine(a1, b1, a2, b2, 1e-8, 1e-11, out1, out2, &t1, &t2, &dist), 1);
-    EXPECT_EQ(t1, 0.25);
-    EXPECT_EQ(t2, 0.5);
-    EXPECT_EQ(dist, 0.0);
-    const double c2[3] = {1, -2, 3}, e2[3] = {1, 2, 3};
+    EXPECT_TRUE(t1 == 0.25 && t2 == 0.5 && dist == 0.0); // in the scale a = 0, b = 1
     EXPECT_EQ(mathIntLine(a1, b1, c2, e2, 1e-8, 1e-11, out1, out2, &t1, &t2, &dist), 5);
     EXPECT_EQ(dist, 3.0);
-}
-
-TEST(IntLine, DegeneratePieceWritesNothing) {
-    const double a[3] = {1, 1, 1}, b[3] = {2, 2, 2};
-    double out1[3] = {9, 9, 9}, out2[3] = {9, 9, 9}, t1 = 9, t2 = 9, dist = 9;
-    EXPECT_EQ(mathIntLine(a, a, a, b, 1e-8, 1e-11, out1, out2, &t1, &t2, &dist), 800);
-    EXPECT_EQ(out1[0], 9.0);
-    EXPECT_EQ(out2[0], 9.0);
-    EXPECT_EQ(t1, 9.0);
-    EXPECT_EQ(dist, 9.0);
-}
-
-TEST(IntLine, ParallelLinesLeaveTheParametersAlone) {
-    const double a1[3] = {0, 0, 0}, b1[3] = {1, 0, 0}, a2[3] = {0, 1, 0}, b2[3] = {1, 1, 0};
-    double out1[3], out2[3], t1 = 9, t2 = 9, dist = 0;
-    EXPECT_EQ(mathIntLine(a1, b1, a2, b2, 0.5, 1e-11, out1, out2, &t1, &t2, &dist), 2);
-    EXPECT_EQ(dist, 1.0);
-    EXPECT_EQ(t1, 9.0);
-    EXPECT_EQ(t2, 9.0);
+    t1 = t2 = 9;
+    EXPECT_EQ(mathIntLine(a1, b1, p2, q2, 0.5, 1e-11, out1, out2, &t1, &t2, &dist), 2);
+    EXPECT_TRUE(dist == 1.0 && t1 == 9.0 && t2 == 9.0); // parallel: no parameters
 }
 
 TEST(Lines3D, DistancesAndFeet) {
