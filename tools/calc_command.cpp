@@ -48,9 +48,14 @@ int evaluate(int argc, char **argv) {
         const char *eq = std::strchr(argv[a], '=');
         if (eq == nullptr || eq == argv[a])
             return usageError("expected NAME=VALUE, got: ", argv[a]);
-        std::string name(argv[a], static_cast<std::size_t>(eq - argv[a]));
-        for (char &c : name)
-            c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+        // Names are normalised as the expression is: upper-cased, and every
+        // character outside A-Z and 0-9 dropped.
+        std::string name;
+        for (const char *c = argv[a]; c != eq; ++c) {
+            const int u = std::toupper(static_cast<unsigned char>(*c));
+            if ((u >= 'A' && u <= 'Z') || (u >= '0' && u <= '9'))
+                name.push_back(static_cast<char>(u));
+        }
         int index = -1;
         for (int i = 0; i < n; ++i) {
             if (name == calc.GetVariableName(i))
@@ -90,7 +95,11 @@ int runCalc(int argc, char **argv) {
     if (argc == 0) {
         static Calculator calc;
         calc.Test();
-        return calc.GetErrorID() == 0 ? kExitOk : kExitFailed;
+        // The console pass reports on standard output; an error it leaves
+        // behind (a division by zero among them) is also reported here.
+        if (calc.GetErrorID() != 0)
+            return reportError(calc);
+        return kExitOk;
     }
     return evaluate(argc, argv);
 }

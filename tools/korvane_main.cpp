@@ -24,7 +24,8 @@ const char *const kUsage =
     "                            standard input and print the answer (console pass)\n"
     "  calc EXPR [NAME=VALUE...] evaluate EXPR once; every variable of EXPR needs\n"
     "                            a value, and every NAME must occur in EXPR\n"
-    "                            (names are case-insensitive)\n"
+    "                            (names are normalised as in EXPR: case and\n"
+    "                            characters outside A-Z 0-9 do not matter)\n"
     "\n"
     "exit status: 0 success, 1 the library reported an error (the error text and\n"
     "its site number go to standard error), 2 usage error\n";

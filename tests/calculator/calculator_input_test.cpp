@@ -58,6 +58,7 @@ TEST(CalculatorInput, FaultsReportTheirIdAndSite) {
         {"SIN", 2, 326},
         {"(1+", 2, 326},
         {"5-", 2, 326},
+        {"1))", 4, 360}, // a second ')' meets the first on the stack
         {"2X", 3, 209},  // the operand balance
         {"1E5", 3, 209}, // no exponent syntax: 1 then the name E5
         {"X(2)", 3, 257},
