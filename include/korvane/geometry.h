@@ -90,8 +90,8 @@ KORVANE_API int mathGetLinDirLen(const double *a, const double *b, double tol, d
 KORVANE_API int mathChkPntLin(const double *p, const double *a, const double *b, double tol);
 /* Foot of p on the line through a and b; out = a when |b - a| < 1e-10. */
 KORVANE_API void mathPrjPntLinEx(const double *p, const double *a, const double *b, double *out);
-/* As mathPrjPntLinEx, with *t the parameter of the foot (a = 0, b = 1);
- * *t = 0.0 when |b - a| < 1e-10. */
+/* As mathPrjPntLinEx, with *t the parameter of the foot (a = 0, b = 1):
+ * ((p - a).d) / |b - a| for the unit d; *t = 0.0 when |b - a| < 1e-10. */
 KORVANE_API void mathPrjPntLineEx(const double *p, const double *a, const double *b, double *out,
                                   double *t);
 /* Parameter of p on o + t d from the first coordinate whose |d| exceeds 0.5;
@@ -103,9 +103,9 @@ KORVANE_API double mathCalPntLinPara(const double *p, const double *o, const dou
  * 1e-8 in magnitude. */
 KORVANE_API double mathCalPntLinSegPara(const double *p, const double *a, const double *b);
 /* Closest approach of o1 + t d1 and o2 + s d2 (unit directions): out1 on line
- * 1, out2 on line 2, both always written except on 800. Returns 1 (meet),
- * 5 (skew), 2 (parallel apart), 4 (coincident), 800 (a denominator below
- * 1e-100). */
+ * 1, out2 on line 2. Returns 1 (meet), 5 (skew), 2 (parallel apart) or 4
+ * (coincident), with both outputs written; 800 when a denominator falls below
+ * 1e-100 (out1 may already be written when it is the second one). */
 KORVANE_API int mathIntLin(const double *o1, const double *d1, const double *o2, const double *d2,
                            double tolDist, double tolPar, double *out1, double *out2);
 /* Two-point form of mathIntLin; 800 when either piece is shorter than
@@ -121,7 +121,8 @@ KORVANE_API int mathIntLine(const double *a1, const double *b1, const double *a2
                             double tolDist, double tolPar, double *out1, double *out2, double *t1,
                             double *t2, double *dist);
 /* Plane of two lines: 1 with pnt and normal for crossing or parallel lines;
- * 2 for coincident lines (nothing written); 0 otherwise. */
+ * 2 for coincident lines (nothing written); 0 otherwise. Parallel lines with
+ * o1 equal to o2 determine no normal: normal is then left as it was. */
 KORVANE_API int mathIsLinCoplanar(const double *o1, const double *d1, const double *o2,
                                   const double *d2, double tolDist, double tolPar, double *pnt,
                                   double *normal);

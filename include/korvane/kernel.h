@@ -240,8 +240,9 @@ KORVANE_API void mathPrjPntLin(const double *p, const double *o, const double *d
  * 3 left, 4 right, 800 when |b - a| < 1e-10. */
 KORVANE_API int mathChkPntLin2D(const double *p, const double *a, const double *b, double tol);
 /* Index of the span of the ascending array t[0..n-1] that holds x, by a
- * linear search: 0 below t[0] + 1e-10, n - 2 above t[n-1] - 1e-10, -1 for an
- * array out of order or n < 2. */
+ * linear search: 0 when x < t[0] + 1e-10, else n - 2 when x > t[n-1] - 1e-10
+ * (so -1 for n = 1), else the i with t[i] <= x < t[i+1], else -1 (an array
+ * out of order). n < 1 gives -1 without reading t. */
 KORVANE_API int mathIntPos(int n, const double *t, double x);
 
 KORVANE_END_C

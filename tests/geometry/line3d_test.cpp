@@ -113,6 +113,7 @@ TEST(Lines3D, DirLenGivesMinusFourOnADegenerateLine) {
     const double b[3] = {1, 2, 5};
     EXPECT_EQ(mathGetLinDirLen(a, b, 1e-10, dir, &len), 1);
     EXPECT_EQ(dir[2], 1.0);
+    EXPECT_EQ(mathRevLin3D(nullptr), 0);
 }
 
 TEST(Lines3D, ParameterFromOneCoordinate) {

@@ -85,6 +85,13 @@ TEST(ParallelAndPerpendicular, StrictTests) {
     EXPECT_EQ(mathIsPerpendicular(a, b, 1.000001), 1);
 }
 
+TEST(Angles, LengthEqualToToleranceIsDefined) {
+    const double a[2] = {3, 4}, b[2] = {0, 5}, p[3] = {3, 4, 0}, c[3] = {0, 0, 0};
+    EXPECT_NEAR(mathGetAngle2D(a, b, 5.0), std::acos(0.8), 1e-15);
+    EXPECT_EQ(mathGetAngle2D(a, b, std::nextafter(5.0, 6.0)), -1.0);
+    EXPECT_NEAR(mathGetAngle3P(p, c, p), 0.0, 1e-15);
+}
+
 TEST(Angles, UndefinedBelowToleranceIsMinusOne) {
     const double a[3] = {1, 0, 0}, zero[3] = {0, 0, 0}, d[3] = {-2, 0, 0};
     EXPECT_EQ(mathGetAngle(a, zero, 1e-10), -1.0);
