@@ -749,8 +749,10 @@ KORVANE_API point_2d operator*(const point_2d &p, const TRANSF_3D &t);
 // and depths scale with its length; a zero dir picks nothing). A point's
 // distance from the line must be below tol, strictly; its depth is its
 // coordinate along dir from org. The frame across the line is seeded by the
-// smallest component of dir, so a pick along a coordinate axis (top, front and
-// side views) gets a proper frame; no result depends on which frame is built.
+// smallest component of dir (a deliberate choice: seeded by the largest, a
+// pick along a coordinate axis, as in top, front and side views, would get a
+// degenerate frame and pick nothing). Another frame across the line would
+// change results only by rounding.
 
 KORVANE_API int PntPickPt(point_2d p, const double *org, const double *dir, double tol,
                           double &depth);

@@ -153,11 +153,13 @@ int GetInverseMatrix2D(const float *a, float *m) {
     if (std::fabs(det) < 1e-06)
         return 0;
     double inv = 1.0 / det;
-    const double adj[9] = {a4 * a8 - a5 * a7, a2 * a7 - a1 * a8, a1 * a5 - a2 * a4,
-                           a5 * a6 - a3 * a8, a0 * a8 - a2 * a6, a2 * a3 - a0 * a5,
-                           a3 * a7 - a4 * a6, a1 * a6 - a0 * a7, a0 * a4 - a1 * a3};
+    // The adjugate is stored in m first, then each stored element is scaled.
+    const float adj[9] = {
+        float(a4 * a8 - a5 * a7), float(a2 * a7 - a1 * a8), float(a1 * a5 - a2 * a4),
+        float(a5 * a6 - a3 * a8), float(a0 * a8 - a2 * a6), float(a2 * a3 - a0 * a5),
+        float(a3 * a7 - a4 * a6), float(a1 * a6 - a0 * a7), float(a0 * a4 - a1 * a3)};
     for (int i = 0; i < 9; ++i)
-        m[i] = float(adj[i] * inv);
+        m[i] = float(double(adj[i]) * inv);
     return 1;
 }
 
@@ -184,14 +186,18 @@ void MakeScaleMatrix(float cx, float cy, float sx, float sy, float *m) {
 }
 
 void MakeMirrorMatrix(float cx, float cy, float a, float *m) {
-    float r[9], f[9], core[9];
-    rotate2D(-double(a), r);
-    InitMatrix2D(f);
-    f[4] = -1.0f;
-    MultiMatrix2D(r, f, core);
-    rotate2D(a, r);
-    MultiMatrix2D(core, r, core);
-    aboutPoint2D(cx, cy, core, m);
+    // Five factors multiplied strictly left to right, each product stored.
+    float t[9], step[9];
+    MakeMoveMatrix(-cx, -cy, t);
+    rotate2D(-double(a), step);
+    MultiMatrix2D(t, step, t);
+    InitMatrix2D(step);
+    step[4] = -1.0f;
+    MultiMatrix2D(t, step, t);
+    rotate2D(a, step);
+    MultiMatrix2D(t, step, t);
+    MakeMoveMatrix(cx, cy, step);
+    MultiMatrix2D(t, step, m);
 }
 
 void MakeShearMatX(float cx, float cy, float a, float *m) {

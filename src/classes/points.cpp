@@ -160,7 +160,8 @@ point_2d operator*(const float (*m)[3], const point_2d &p) {
 }
 
 float point_2d::DistFrom(const point_2d &p) const {
-    return float(std::sqrt(DistFrom2(p)));
+    const double dx = double(x) - p.x, dy = double(y) - p.y;
+    return float(std::sqrt(dx * dx + dy * dy));
 }
 
 float point_2d::DistFrom2(const point_2d &p) const {
@@ -371,7 +372,8 @@ point_3d operator*(const float (*m)[4], const point_3d &p) {
 }
 
 float point_3d::DistFrom(const point_3d &p) const {
-    return float(std::sqrt(DistFrom2(p)));
+    const double dx = double(x) - p.x, dy = double(y) - p.y, dz = double(z) - p.z;
+    return float(std::sqrt(dx * dx + dy * dy + dz * dz));
 }
 
 float point_3d::DistFrom2(const point_3d &p) const {

@@ -227,7 +227,8 @@ void TRANSF_3D::DefRotateLine(const point_3d &p, const point_3d &q, float a) {
 void TRANSF_3D::DefRotate(const double *p, const double *d, double a) {
     TRANSF_3D f;
     f.Define(p, d);
-    *this = rotateAboutFrame(f, point_3d(float(p[0]), float(p[1]), float(p[2])), a);
+    // The rotation about z takes its angle as a float, as DefRotateZAxis does.
+    *this = rotateAboutFrame(f, point_3d(float(p[0]), float(p[1]), float(p[2])), float(a));
 }
 
 void TRANSF_3D::DefRotate(point_3d p, point_3d u, point_3d v) {
@@ -244,7 +245,9 @@ void TRANSF_3D::DefRotate(point_3d p, point_3d u, point_3d v) {
         if (gAbsDistTol > n.Unit())
             return;
     }
-    point_3d q = p + n * 10.0f;
+    // q = p + 10 n, rounded once.
+    point_3d q(float(double(p.x) + 10.0 * n.x), float(double(p.y) + 10.0 * n.y),
+               float(double(p.z) + 10.0 * n.z));
     DefRotateLine(p, q, -angle);
     *this = Inverse();
 }

@@ -137,6 +137,16 @@ TEST(PointAngles, SnapIncludesTheToleranceItself) {
     EXPECT_EQ(point_3d(1, 0.01f, 5).AngleToXAxis(), 0.0f);
 }
 
+TEST(PointDistance, OneRoundingFromDoubleIntermediates) {
+    const point_2d a(0, 0), far(1e20f, 0), tiny(1e-25f, 0);
+    EXPECT_EQ(a.DistFrom(far), 1e20f); // the square would overflow a float
+    EXPECT_EQ(a.DistFrom(tiny), 1e-25f);
+    const point_2d p(-3.7345295f, -1.61610985f), q(0.490962982f, 3.70439053f);
+    const double dx = double(p.x) - q.x, dy = double(p.y) - q.y;
+    EXPECT_EQ(p.DistFrom(q), float(std::sqrt(dx * dx + dy * dy)));
+    EXPECT_EQ(point_3d(0, 0, 0).DistFrom(point_3d(0, 0, 1e20f)), 1e20f);
+}
+
 TEST(PointArithmetic, MatrixProductIsRowVectorOnEitherSide) {
     float m[9] = {0, 1, 99, -1, 0, 99, 5, 6, 99},
           n[16] = {1, 0, 0, 42, 0, 2, 0, 42, 0, 0, 3, 42, 10, 20, 30, 42};

@@ -38,6 +38,38 @@ TEST(GetInverseMatrix2D, RefusesBelowTheFixedDeterminant) {
     EXPECT_TRUE(is(a, {1, 0, 0, 0, 1, 0, 0, 0, float(1.0 / double(above))}));
 }
 
+TEST(GetInverseMatrix2D, StoresTheAdjugateBeforeScalingIt) {
+    const float a[9] = {2, 1, 0.5f, 0.3f, 3, 0.1f, 1, 2, 1};
+    float m[9];
+    ASSERT_EQ(GetInverseMatrix2D(a, m), 1);
+    const double det = 2.0 * 3 * 1 + 1.0 * double(0.1f) * 1 + double(0.5f) * double(0.3f) * 2 -
+                       2.0 * double(0.1f) * 2 - 1.0 * 1 * double(0.3f) - 3.0 * 1 * double(0.5f);
+    EXPECT_EQ(m[0], float(double(float(3.0 * 1 - double(0.1f) * 2)) * (1.0 / det)));
+    float prod[9];
+    MultiMatrix2D(a, m, prod);
+    EXPECT_TRUE(is(prod, kId2D, 1e-6));
+}
+
+TEST(MakeMirrorMatrix, FiveFactorsLeftToRight) {
+    float want[9], step[9], m[9];
+    MakeMoveMatrix(-3, -5, want);
+    MakeRotateMatrix(0, 0, -0.3f, step);
+    MultiMatrix2D(want, step, want);
+    InitMatrix2D(step);
+    step[4] = -1.0f;
+    MultiMatrix2D(want, step, want);
+    MakeRotateMatrix(0, 0, 0.3f, step);
+    MultiMatrix2D(want, step, want);
+    MakeMoveMatrix(3, 5, step);
+    MultiMatrix2D(want, step, want);
+    MakeMirrorMatrix(3, 5, 0.3f, m);
+    EXPECT_TRUE(sameAs(m, want));
+    const point_2d on(3 + std::cos(0.3f), 5 + std::sin(0.3f));
+    point_2d p;
+    TransPoint2D(on, &p, m);
+    EXPECT_TRUE(sameAs(p, on, 1e-6)); // a point on the line stays
+}
+
 TEST(Shear, SafeAngleStaysOffTheQuarterTurns) {
     // (angle, the angle whose tangent is used): below and above the quarter turn, clear of
     // it, -1.57 wrapped to below the three-quarter turn, and above that turn
