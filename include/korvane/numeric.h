@@ -34,7 +34,8 @@ KORVANE_API int mathSolQuadEqua(double a, double b, double c, double tol, double
  * x^3 itself yields non-finite values. */
 KORVANE_API int mathSolTriaEqua(const double *c, double tol, double *r);
 /* Quartic c[0..4] into r[4] by Ferrari, through the largest real root of the
- * resolvent cubic. The two quadratic factors are solved with tolerance
+ * resolvent cubic (the largest of the roots the cubic solver reported: slots it
+ * did not write are never read). The two quadratic factors are solved with tolerance
  * tol / |c[0]|, the first factor's roots first; equal roots of the two factors
  * are not merged and a double root of a factor counts once. Known blind spots
  * kept as they are: x^4 reports no root, x^4 - 1 never reports 1 or -1 (at
@@ -95,7 +96,8 @@ KORVANE_API void mathMatxMult(const double *a, const double *b, double *c, int l
 KORVANE_API void mathMatxTrans(int r, int c, const double *a, double *t);
 /* m = identity of order n. */
 KORVANE_API void mathUnitMatx(int n, double *m);
-/* out = f a; out may be a. */
+/* Element-wise forms; dimensions below 1 do nothing. out = f a; out may be
+ * a. */
 KORVANE_API void mathMatxScalar(int r, int c, const double *a, double f, double *out);
 /* out = a + b, out = a - b; out may be either operand. */
 KORVANE_API void mathMatxPlus(int r, int c, const double *a, const double *b, double *out);
@@ -126,7 +128,8 @@ KORVANE_API int mathSolLineEqua(int n, const double *a, const double *b, double 
 /* g (c by r) = the Moore-Penrose generalised inverse of a (r by c), by
  * Greville's column recursion; a column whose part outside the span of the
  * earlier ones has a squared length below 1e-20 counts as dependent. There is
- * no singular outcome: 1, or 0 only when memory ran out. */
+ * no singular outcome: 1, or 0 only when memory ran out (nothing is left
+ * allocated). Dimensions below 1 give 1 and touch nothing. */
 KORVANE_API int mathMatxInvs(int r, int c, const double *a, double *g);
 /* inv = a^-1 (n by n) by elementary row operations, destroying a. Rows are
  * exchanged with the first (not the largest) entry above 1e-20 in magnitude.

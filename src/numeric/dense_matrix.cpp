@@ -42,24 +42,33 @@ void mathUnitMatx(int n, double *m) {
 }
 
 void mathMatxScalar(int r, int c, const double *a, double f, double *out) {
+    // Dimensions below 1 give empty loops, two negative ones included.
+    if (r < 1 || c < 1)
+        return;
     const int count = r * c;
     for (int i = 0; i < count; ++i)
         out[i] = f * a[i];
 }
 
 void mathMatxPlus(int r, int c, const double *a, const double *b, double *out) {
+    if (r < 1 || c < 1)
+        return;
     const int count = r * c;
     for (int i = 0; i < count; ++i)
         out[i] = a[i] + b[i];
 }
 
 void mathMatxMinus(int r, int c, const double *a, const double *b, double *out) {
+    if (r < 1 || c < 1)
+        return;
     const int count = r * c;
     for (int i = 0; i < count; ++i)
         out[i] = a[i] - b[i];
 }
 
 void mathMatxCopy(const double *a, double *out, int r, int c) {
+    if (r < 1 || c < 1)
+        return;
     const int count = r * c;
     for (int i = 0; i < count; ++i)
         out[i] = a[i];

@@ -40,6 +40,20 @@ double maxDiff(const Matrix &a, const Matrix &b) {
     return v;
 }
 
+TEST(MatrixBasics, RowOperationsAndEmptyDimensions) {
+    double m[6] = {1, 2, 3, 4, 5, 6}, out[2] = {7, 7};
+    mathElemnTrans_4(3, 1, m, 1.0); // scaling by 1 changes nothing
+    mathElemnTrans_6(3, 1, 1, m);   // nor does swapping a row with itself
+    EXPECT_TRUE(exactly(m, {1, 2, 3, 4, 5, 6}));
+    mathElemnTrans_6(3, 0, 1, m);
+    EXPECT_TRUE(exactly(m, {4, 5, 6, 1, 2, 3}));
+    mathMatxScalar(-1, -2, m, 2.0, out); // two negative dimensions: still empty
+    mathMatxPlus(0, 2, m, m, out);
+    mathMatxCopy(m, out, -2, -1);
+    EXPECT_TRUE(exactly(out, {7, 7}));
+    EXPECT_EQ(mathCalDeterm33(1, 2, 3, 0, 1, 4, 5, 6, 0), 1.0);
+}
+
 TEST(GaussEliminate, RankTestIsThePrecisionNotTheScaleAndTiesTakeTheColumn) {
     // 1 + 1e-17 == 1 is refused, 1 + 1e-15 is not, though both are perfectly conditioned.
     double small[4] = {1e-17, 0, 0, 1e-17}, ok[4] = {1e-15, 0, 0, 1e-15}, bs[2] = {1, 1},
