@@ -33,6 +33,17 @@ int directionSign(point_3d a, point_3d b) {
 const float kTwoPiFloat = 6.2831855f;
 const float kPiFloat = 3.1415927f;
 
+// The foot a + s e of p on the line, its parameter and its distance from p,
+// each rounded once when stored.
+void storeFoot(const point_2d &p, const point_2d &a, double ex, double ey, double s, float &t,
+               point_2d &q, float &d) {
+    const double qx = a.x + s * ex, qy = a.y + s * ey;
+    const double dx = p.x - qx, dy = p.y - qy;
+    t = float(s);
+    q = point_2d(float(qx), float(qy));
+    d = float(std::sqrt(dx * dx + dy * dy));
+}
+
 } // namespace
 
 // ---- point_2d --------------------------------------------------------------
@@ -51,11 +62,7 @@ int point_2d::GetDistLineSeg(point_2d a, point_2d b, float &t, point_2d &q, floa
     double s = (ax * ex + ay * ey) / len2;
     // not clamped: within the slack, s and q may lie a little beyond the ends
     if (s > -korvane::gParaTol && s <= 1.0 + korvane::gParaTol) {
-        double qx = a.x + s * ex, qy = a.y + s * ey;
-        double dx = x - qx, dy = y - qy;
-        t = float(s);
-        q = point_2d(float(qx), float(qy));
-        d = float(std::sqrt(dx * dx + dy * dy));
+        storeFoot(*this, a, ex, ey, s, t, q, d);
         return 1;
     }
     double bx = double(x) - b.x, by = double(y) - b.y;
@@ -90,12 +97,7 @@ int point_2d::GetProjectPoint(point_2d a, point_2d b, float &t, point_2d &q, flo
         d = float(std::sqrt(ax * ax + ay * ay));
         return 1;
     }
-    double s = (ax * ex + ay * ey) / len2;
-    double qx = a.x + s * ex, qy = a.y + s * ey;
-    double dx = x - qx, dy = y - qy;
-    t = float(s);
-    q = point_2d(float(qx), float(qy));
-    d = float(std::sqrt(dx * dx + dy * dy));
+    storeFoot(*this, a, ex, ey, (ax * ex + ay * ey) / len2, t, q, d);
     return 1;
 }
 

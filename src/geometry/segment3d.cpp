@@ -109,6 +109,11 @@ double along(const double *p, const double *o, const double *e) {
     return dot3(w, e);
 }
 
+// True when both extents lie beyond the same end of [0, len], by more than tol.
+bool bothOutside(double u1, double u2, double len, double tol) {
+    return (u1 > len + tol && u2 > len + tol) || (u1 < -tol && u2 < -tol);
+}
+
 } // namespace
 
 int mathIntSegm(const double *a1, const double *a2, const double *b1, const double *b2,
@@ -126,17 +131,11 @@ int mathIntSegm(const double *a1, const double *a2, const double *b1, const doub
         return 800;
     const double u1 = along(b1, a1, e1);
     const double u2 = along(b2, a1, e1);
-    if (u1 > len1 + tolDist && u2 > len1 + tolDist)
-        return 0;
-    if (u1 < -tolDist && u2 < -tolDist)
+    if (bothOutside(u1, u2, len1, tolDist))
         return 0;
     if (!segmentDir(b1, b2, e2, &len2))
         return 800;
-    const double w1 = along(a1, b1, e2);
-    const double w2 = along(a2, b1, e2);
-    if (w1 > len2 + tolDist && w2 > len2 + tolDist)
-        return 0;
-    if (w1 < -tolDist && w2 < -tolDist)
+    if (bothOutside(along(a1, b1, e2), along(a2, b1, e2), len2, tolDist))
         return 0;
 
     const int r = mathIntLin(a1, e1, b1, e2, tolDist, tolPar, out1, out2);
